@@ -1,0 +1,42 @@
+# What every target of the project shares: language, warnings, where programs land, and how a layer is declared.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_AUTOMOC ON)
+# The meta-object compiler of Qt 6.4 cannot read the standard library's <concepts>; the guard macro keeps it out.
+set(CMAKE_AUTOMOC_MOC_OPTIONS -D_GLIBCXX_CONCEPTS)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
+
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wno-missing-field-initializers -Wnon-virtual-dtor -Werror)
+add_compile_definitions(QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII QT_NO_FOREACH)
+
+find_program(CCACHE ccache)
+if(CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+# schedules_layer(NAME LINK libraries...): all sources of the current folder, as objects that the component, the tests
+# and the benchmarks share, so that each file is compiled once. A folder is a layer, so its files need no second list.
+function(schedules_layer name)
+    cmake_parse_arguments(LAYER "" "" "LINK" ${ARGN})
+    file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+    add_library(${name} OBJECT ${sources})
+    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+    target_link_libraries(${name} PUBLIC ${LAYER_LINK})
+    schedules_precompile(${name} ${LAYER_LINK})
+endfunction()
+
+# Precompiled headers by the widest Qt module that a target may use.
+function(schedules_precompile name)
+    if("Qt6::Widgets" IN_LIST ARGN)
+        target_precompile_headers(${name} PRIVATE <QtWidgets/QtWidgets>)
+    elseif("Qt6::Gui" IN_LIST ARGN)
+        target_precompile_headers(${name} PRIVATE <QtGui/QtGui>)
+    else()
+        target_precompile_headers(${name} PRIVATE <QtCore/QtCore>)
+    endif()
+endfunction()

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "host/CommandLine.h"
+
+namespace schedules::host {
+
+/// Exit codes of the program.
+inline constexpr int kDone = 0;
+inline constexpr int kFailed = 1;
+inline constexpr int kWrongUsage = 2;
+
+// Each command needs an application and throws `HostError` when it cannot do what it was asked.
+
+/// Opens the window and returns when it is closed.
+int RunWindow(const CommandLine& commandLine);
+
+/// Prints the loaded grid on standard output.
+int RunDump(const CommandLine& commandLine);
+
+/// Draws the view into a file and prints the file's name.
+int RunRender(const CommandLine& commandLine);
+
+} // namespace schedules::host

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "common/UserInterface.h"
+
+#include <QList>
+
+#include <optional>
+
+namespace schedules::host {
+
+/// Stands in for the user where there is none: message boxes are remembered, questions are answered with no.
+class ConsoleUserInterface : public UserInterface
+{
+public:
+    Answer Show(const MessageBox& box) override;
+    void SetPointer(Pointer) override {}
+    void Beep() override {}
+    QString AskSaveFileName(const FileQuestion&) override { return {}; }
+
+    /// What went wrong, as one line: the first message with a number, the number behind it in brackets; without any
+    /// numbered one the first message. Nothing when no message was shown.
+    std::optional<QString> Failure() const;
+
+private:
+    QList<MessageBox> m_boxes;
+};
+
+} // namespace schedules::host

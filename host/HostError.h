@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+#include <exception>
+
+namespace schedules::host {
+
+/// Something that the user must be told in one line, and that ends what he asked for.
+class HostError : public std::exception
+{
+public:
+    explicit HostError(const QString& line) : m_line(line), m_what(line.toUtf8()) {}
+
+    const QString& Line() const { return m_line; }
+    const char* what() const noexcept override { return m_what.constData(); }
+
+private:
+    QString m_line;
+    QByteArray m_what;
+};
+
+} // namespace schedules::host

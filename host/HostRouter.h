@@ -1,0 +1,38 @@
+#pragma once
+
+#include "framework/IMsgRouter.h"
+#include "host/Crossing.h"
+
+#include <QHash>
+#include <QObject>
+
+#include <functional>
+
+namespace schedules::host {
+
+/// The name under which tools reach this host.
+inline const QString kOwner = QStringLiteral("schedhost");
+
+/// Delivers what tools send to whoever answers it, and tells about every message that crossed.
+class HostRouter : public QObject, public IMsgRouter
+{
+    Q_OBJECT
+
+public:
+    using Answer = std::function<QString(const Message&)>;
+
+    /// Messages of that name get the reply that `answer` gives. A message that nobody answers gets an empty reply.
+    void Answers(const QString& name, Answer answer);
+
+    QString Send(const Envelope& envelope) override;
+
+Q_SIGNALS:
+    void Crossed(const schedules::host::Crossing& crossing);
+
+private:
+    QString ReplyTo(const Message& message) const;
+
+    QHash<QString, Answer> m_answers;
+};
+
+} // namespace schedules::host

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+namespace schedules::host {
+
+/// The component's texts in one language, open as long as this object lives.
+class LanguageModule
+{
+public:
+    /// `language` is a code like "en". A language without a table gives an empty reply.
+    explicit LanguageModule(const QString& language);
+    ~LanguageModule();
+    Q_DISABLE_COPY_MOVE(LanguageModule)
+
+    /// What a tool is told that asks for the module: its handle as decimal text.
+    QString Reply() const;
+
+private:
+    int m_handle;
+};
+
+} // namespace schedules::host

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "host/Crossing.h"
+
+#include <QAbstractTableModel>
+#include <QList>
+
+namespace schedules::host {
+
+/// Every message that crossed the router, oldest first, for a table on screen.
+class MessageModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Field
+    {
+        Time,
+        Route,
+        Kind,
+        Name,
+        Parameters,
+        Reply,
+        kFieldCount
+    };
+
+    using QAbstractTableModel::QAbstractTableModel;
+
+    void Append(const Crossing& crossing);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+
+    /// A field's text; the tool tip gives long ones in full.
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+
+private:
+    QList<Crossing> m_crossings;
+};
+
+} // namespace schedules::host

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QImage>
+#include <QString>
+
+class QWidget;
+
+namespace schedules::host {
+
+/// The tool drawn with everything that is on it, as large as its grid, within limits. A title is written above it as a
+/// heading.
+QImage PictureOf(QWidget& tool, const QString& title);
+
+/// Throws `HostError` when the file cannot be written.
+void WritePng(const QImage& picture, const QString& fileName);
+
+} // namespace schedules::host

@@ -1,0 +1,72 @@
+#include "host/ScheduleTool.h"
+
+#include "framework/IComponentFactory.h"
+#include "framework/IToolUI.h"
+#include "host/HostError.h"
+#include "host/HostRouter.h"
+#include "spread/Sheet.h"
+
+#include <QAction>
+
+namespace schedules::host {
+
+namespace {
+
+std::unique_ptr<QWidget> CreatedTool(UserInterface* userInterface)
+{
+    std::unique_ptr<QObject> tool(ComponentFactory().CreateTool(QStringLiteral("ctlSchedule"), userInterface));
+    auto* widget = qobject_cast<QWidget*>(tool.get());
+    if (!widget || !qobject_cast<IToolUI*>(widget))
+        throw HostError(QStringLiteral("the component has no schedule view"));
+    tool.release();
+    return std::unique_ptr<QWidget>(widget);
+}
+
+} // namespace
+
+ScheduleTool::ScheduleTool(IMsgRouter& router, UserInterface* userInterface, const ViewOptions& options)
+    : m_widget(CreatedTool(userInterface)), m_tool(qobject_cast<IToolUI*>(m_widget.get()))
+{
+    m_widget->setProperty("ViewType", static_cast<int>(options.view));
+    m_widget->setProperty("SelectAllTags", options.selectAll);
+    m_tool->IToolUI_Initialize(&router, kOwner);
+}
+
+ScheduleTool::~ScheduleTool()
+{
+    m_tool->IToolUI_Deactivate(false);
+}
+
+void ScheduleTool::Load(const QString& xml)
+{
+    m_tool->IToolUI_XML(xml);
+    m_tool->IToolUI_Activate();
+}
+
+void ScheduleTool::Transpose()
+{
+    auto* action = m_widget->findChild<QAction*>(QStringLiteral("btnTranspose"));
+    if (!action)
+        throw HostError(QStringLiteral("this view cannot be transposed"));
+    action->trigger();
+}
+
+const Sheet& ScheduleTool::Grid() const
+{
+    const auto* sheet = m_widget->property("sheet").value<Sheet*>();
+    if (!sheet)
+        throw HostError(QStringLiteral("the schedule view has no grid"));
+    return *sheet;
+}
+
+int ScheduleTool::Orientation() const
+{
+    return m_widget->property("SchedOrientation").toInt();
+}
+
+bool ScheduleTool::Transposed() const
+{
+    return m_widget->property("TransposeData").toBool();
+}
+
+} // namespace schedules::host

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "host/CommandLine.h"
+
+#include <QWidget>
+
+#include <memory>
+
+namespace schedules {
+class IMsgRouter;
+class IToolUI;
+class Sheet;
+class UserInterface;
+} // namespace schedules
+
+namespace schedules::host {
+
+/// The schedule view as this host uses it: created by name, set up through properties, driven through `IToolUI`.
+class ScheduleTool
+{
+public:
+    /// Runs the start-up exchange. With no `userInterface` message boxes are the desktop's.
+    ScheduleTool(IMsgRouter& router, UserInterface* userInterface, const ViewOptions& options);
+    ~ScheduleTool();
+
+    /// Loads a table and shows it. How a failed load is told is the tool's business.
+    void Load(const QString& xml);
+
+    /// Does what the button Transpose does. Throws `HostError` while there is no such button.
+    void Transpose();
+
+    QWidget& Widget() const { return *m_widget; }
+    const Sheet& Grid() const;
+
+    /// The engine's settings, as the tool shows them to its host.
+    int Orientation() const;
+    bool Transposed() const;
+
+private:
+    std::unique_ptr<QWidget> m_widget;
+    IToolUI* m_tool;
+};
+
+} // namespace schedules::host

@@ -1,0 +1,15 @@
+#include "host/Session.h"
+
+namespace schedules::host {
+
+Session::Session(const CommandLine& commandLine) : m_language(commandLine.language)
+{
+    m_router.Answers(QStringLiteral("GetResourceModule"), [this](const Message&) { return m_language.Reply(); });
+    if (commandLine.messages.isEmpty())
+        return;
+    m_messageFile.emplace(commandLine.messages);
+    QObject::connect(&m_router, &HostRouter::Crossed, &m_router,
+                     [this](const Crossing& crossing) { m_messageFile->Append(crossing); });
+}
+
+} // namespace schedules::host

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "host/CommandLine.h"
+#include "host/HostRouter.h"
+#include "host/LanguageModule.h"
+#include "host/MessageFile.h"
+
+#include <optional>
+
+namespace schedules::host {
+
+/// What a run of the host has exactly one of: the router with its answers, the language and the message file.
+/// It must outlive the tools that are connected to it.
+class Session
+{
+public:
+    /// Throws `HostError` when the message file cannot be written.
+    explicit Session(const CommandLine& commandLine);
+
+    HostRouter& Router() { return m_router; }
+
+private:
+    LanguageModule m_language;
+    std::optional<MessageFile> m_messageFile;
+    HostRouter m_router;
+};
+
+} // namespace schedules::host

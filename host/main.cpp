@@ -1,0 +1,76 @@
+#include "framework/IComponentFactory.h"
+#include "host/CommandLine.h"
+#include "host/Commands.h"
+#include "host/HostError.h"
+#include "host/Platform.h"
+
+#include <QApplication>
+
+#include <cstdio>
+
+namespace schedules::host {
+
+namespace {
+
+QStringList Arguments(int argc, char** argv)
+{
+    QStringList arguments;
+    for (int index = 1; index < argc; ++index)
+        arguments.append(QString::fromLocal8Bit(argv[index]));
+    return arguments;
+}
+
+void PrintLine(std::FILE* stream, const QString& line)
+{
+    std::fputs((line + u'\n').toLocal8Bit().constData(), stream);
+}
+
+int Run(const CommandLine& commandLine)
+{
+    switch (commandLine.form) {
+    case Form::Dump:
+        return RunDump(commandLine);
+    case Form::Render:
+        return RunRender(commandLine);
+    default:
+        return RunWindow(commandLine);
+    }
+}
+
+int RunApplication(const CommandLine& commandLine, int argc, char** argv)
+{
+    ChoosePlatform(commandLine.form);
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("schedhost"));
+    QCoreApplication::setApplicationVersion(ComponentFactory().Version());
+    try {
+        return Run(commandLine);
+    } catch (const HostError& error) {
+        PrintLine(stderr, error.Line());
+        return kFailed;
+    }
+}
+
+int Main(int argc, char** argv)
+{
+    const auto parsed = ParseCommandLine(Arguments(argc, argv));
+    if (const auto* error = std::get_if<UsageError>(&parsed)) {
+        PrintLine(stderr, QStringLiteral("schedhost: %1 (see schedhost --help)").arg(error->line));
+        return kWrongUsage;
+    }
+    const auto& commandLine = std::get<CommandLine>(parsed);
+    if (commandLine.form == Form::Help)
+        return std::fputs(HelpText().toUtf8().constData(), stdout), kDone;
+    if (commandLine.form == Form::Version)
+        return PrintLine(stdout, QStringLiteral("schedhost %1").arg(ComponentFactory().Version())), kDone;
+    return RunApplication(commandLine, argc, argv);
+}
+
+} // namespace
+
+} // namespace schedules::host
+
+int main(int argc, char** argv)
+{
+    return schedules::host::Main(argc, argv);
+}

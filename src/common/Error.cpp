@@ -1,0 +1,58 @@
+#include "common/Error.h"
+
+#include <new>
+
+namespace schedules {
+
+Q_LOGGING_CATEGORY(kTrace, "schedules.trace", QtInfoMsg)
+
+namespace {
+constexpr auto kComponentName = "Schedules";
+}
+
+Error::Error(int number, const QString& description, const QString& source, int systemCode)
+    : m_number(number),
+      m_description(description),
+      m_source(source),
+      m_systemCode(systemCode),
+      m_what(description.toUtf8())
+{
+}
+
+QString SourceName::In(const char* procedure) const
+{
+    return QStringLiteral("%1.%2.%3")
+        .arg(QLatin1String(kComponentName), QLatin1String(m_typeName), QLatin1String(procedure));
+}
+
+Error CurrentError()
+{
+    try {
+        throw;
+    } catch (const Error& error) {
+        return error;
+    } catch (const std::bad_alloc&) {
+        return {kOutOfMemoryError, QStringLiteral("Out of memory")};
+    } catch (const std::exception& error) {
+        return {kUnexpectedError, QString::fromUtf8(error.what())};
+    } catch (...) {
+        return {kUnexpectedError, QStringLiteral("Unexpected error")};
+    }
+}
+
+void Trace(const QString& line)
+{
+    qCDebug(kTrace).noquote() << line;
+}
+
+void ReportError(UserInterface& userInterface, const Error& error, const QString& source, const QString& message,
+                 int style) noexcept
+{
+    IgnoringErrors([&] {
+        Trace(source + QStringLiteral(": ") + error.Description());
+        userInterface.SetPointer(Pointer::Default);
+        userInterface.Show({message.isEmpty() ? error.Description() : message, style, source});
+    });
+}
+
+} // namespace schedules

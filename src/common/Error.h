@@ -1,0 +1,102 @@
+#pragma once
+
+#include "common/UserInterface.h"
+
+#include <QLoggingCategory>
+#include <QString>
+
+#include <concepts>
+#include <exception>
+#include <functional>
+
+namespace schedules {
+
+Q_DECLARE_LOGGING_CATEGORY(kTrace)
+
+/// Numbers of errors that are not of this component's own making.
+enum ErrorNumber
+{
+    kOverflowError = 6,
+    kOutOfMemoryError = 7,
+    kTypeMismatchError = 13,
+    kUnexpectedError = 51,
+    kNoIndexError = 343,
+    kAutomationError = 440
+};
+
+/// What a failed procedure throws inside the component.
+class Error : public std::exception
+{
+public:
+    Error(int number, const QString& description, const QString& source = {}, int systemCode = 0);
+
+    int Number() const { return m_number; }
+    const QString& Description() const { return m_description; }
+    const QString& Source() const { return m_source; }
+
+    /// The code that a failed system call left; 0 when none was involved.
+    int SystemCode() const { return m_systemCode; }
+
+    const char* what() const noexcept override { return m_what.constData(); }
+
+private:
+    int m_number;
+    QString m_description;
+    QString m_source;
+    int m_systemCode;
+    QByteArray m_what;
+};
+
+/// Makes the qualified names of a type's procedures, "Schedules.CSchedule.LoadScheduleData".
+class SourceName
+{
+public:
+    explicit constexpr SourceName(const char* typeName) : m_typeName(typeName) {}
+    QString In(const char* procedure) const;
+
+private:
+    const char* m_typeName;
+};
+
+/// The exception that is being handled, as an error: only to be called inside a `catch`.
+Error CurrentError();
+
+/// Writes a debug trace line.
+void Trace(const QString& line);
+
+/// The shared reporter: a trace line, the default pointer and a message box with `message`, or with the error's own
+/// description when that is empty, titled with the source. Never throws.
+void ReportError(UserInterface& userInterface, const Error& error, const QString& source, const QString& message = {},
+                 int style = kExclamation) noexcept;
+
+/// Runs `body` and returns what it returns. Whatever it throws is told to the shared reporter, and the result is then
+/// `fallback`.
+template <class Result, std::invocable Body>
+Result Reported(UserInterface& userInterface, const QString& source, Result fallback, Body&& body)
+{
+    try {
+        return std::invoke(body);
+    } catch (...) {
+        ReportError(userInterface, CurrentError(), source);
+        return fallback;
+    }
+}
+
+template <std::invocable Body>
+void Reported(UserInterface& userInterface, const QString& source, Body&& body)
+{
+    Reported(userInterface, source, false, [&] { return std::invoke(body), true; });
+}
+
+/// Runs a step whose failure must not stop what comes after it.
+template <std::invocable Body>
+void IgnoringErrors(Body&& body) noexcept
+{
+    try {
+        std::invoke(body);
+    } catch (...) {
+        return;
+    }
+}
+
+} // namespace schedules

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "common/XmlReader.h"
+
+namespace schedules {
+
+/// Reads a document that is written plainly: ASCII names without prefixes, elements, attributes and text with no other
+/// entities than the five predefined ones. Such are the documents that hosts write, and they are read several times
+/// faster than by the full parser.
+///
+/// False when the document holds anything else, right or wrong: then the handler must be thrown away and the full
+/// parser has the word. Whatever is read here, the full parser accepts and tells in the same calls, but for the pieces
+/// in which text comes. `utf8` must be valid UTF-8.
+bool ReadPlainXml(const QByteArray& utf8, XmlHandler& handler);
+
+} // namespace schedules

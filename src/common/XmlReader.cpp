@@ -1,0 +1,153 @@
+#include "common/XmlReader.h"
+
+#include "common/XmlBounds.h"
+
+#include <QStringEncoder>
+
+#include <exception>
+#include <libxml/parser.h>
+#include <libxml/parserInternals.h>
+#include <limits>
+#include <memory>
+#include <vector>
+
+namespace schedules {
+
+namespace {
+
+constexpr int kFieldsPerAttribute = 5;
+
+std::string_view View(const xmlChar* text)
+{
+    return reinterpret_cast<const char*>(text);
+}
+
+/// An attribute out of the parser's five pointers: name, prefix, namespace, start and end of the value.
+XmlAttribute AttributeAt(const xmlChar** fields)
+{
+    const auto* start = reinterpret_cast<const char*>(fields[3]);
+    return {View(fields[0]), {start, static_cast<std::size_t>(fields[4] - fields[3])}, fields[2] != nullptr};
+}
+
+/// One reading: passes the parser's calls on, and keeps exceptions from crossing the parser's frames.
+class Reading
+{
+public:
+    Reading(const QByteArray& utf8, XmlHandler& handler)
+        : m_handler(handler),
+          m_parser(xmlCreateMemoryParserCtxt(utf8.constData(), static_cast<int>(utf8.size())), xmlFreeParserCtxt)
+    {
+        if (!m_parser)
+            throw std::bad_alloc();
+        *m_parser->sax = Callbacks();
+        m_parser->userData = this;
+        xmlCtxtUseOptions(m_parser.get(), XML_PARSE_NONET | XML_PARSE_NOENT | XML_PARSE_IGNORE_ENC);
+        xmlSwitchEncoding(m_parser.get(), XML_CHAR_ENCODING_UTF8);
+    }
+
+    bool Run()
+    {
+        xmlParseDocument(m_parser.get());
+        if (m_exception)
+            std::rethrow_exception(m_exception);
+        return m_parser->wellFormed && m_parser->nsWellFormed && !m_refused;
+    }
+
+private:
+    static Reading& Of(void* context) { return *static_cast<Reading*>(context); }
+
+    static xmlSAXHandler Callbacks()
+    {
+        xmlSAXHandler sax{};
+        sax.initialized = XML_SAX2_MAGIC;
+        sax.startElementNs = OnStart;
+        sax.endElementNs = [](void* context, const xmlChar*, const xmlChar*, const xmlChar*) {
+            Of(context).Guarded([](XmlHandler& handler) { handler.EndElement(); });
+        };
+        sax.characters = OnText;
+        sax.ignorableWhitespace = OnText;
+        sax.comment = [](void* context, const xmlChar*) { Of(context).TellOtherNode(); };
+        sax.cdataBlock = [](void* context, const xmlChar*, int) { Of(context).TellOtherNode(); };
+        sax.processingInstruction = [](void* context, const xmlChar*, const xmlChar*) { Of(context).TellOtherNode(); };
+        sax.internalSubset = [](void* context, const xmlChar*, const xmlChar*, const xmlChar*) {
+            Of(context).Refuse();
+        };
+        sax.serror = [](void*, xmlErrorPtr) {};
+        return sax;
+    }
+
+    static void OnStart(void* context, const xmlChar* name, const xmlChar*, const xmlChar* uri, int, const xmlChar**,
+                        int count, int, const xmlChar** attributes)
+    {
+        Of(context).Guarded([&](XmlHandler& handler) {
+            handler.StartElement({View(name), uri != nullptr, Of(context).Attributes(attributes, count)});
+        });
+    }
+
+    static void OnText(void* context, const xmlChar* text, int length)
+    {
+        Of(context).Guarded([&](XmlHandler& handler) {
+            handler.Text({reinterpret_cast<const char*>(text), static_cast<std::size_t>(length)});
+        });
+    }
+
+    std::span<const XmlAttribute> Attributes(const xmlChar** fields, int count)
+    {
+        m_attributes.clear();
+        for (int index = 0; index < count; ++index)
+            m_attributes.push_back(AttributeAt(fields + index * kFieldsPerAttribute));
+        return m_attributes;
+    }
+
+    template <class Call>
+    void Guarded(Call&& call) noexcept
+    {
+        if (m_exception || m_refused)
+            return;
+        try {
+            call(m_handler);
+        } catch (...) {
+            m_exception = std::current_exception();
+            xmlStopParser(m_parser.get());
+        }
+    }
+
+    void TellOtherNode()
+    {
+        Guarded([](XmlHandler& handler) { handler.OtherNode(); });
+    }
+
+    void Refuse()
+    {
+        m_refused = true;
+        xmlStopParser(m_parser.get());
+    }
+
+    XmlHandler& m_handler;
+    std::unique_ptr<xmlParserCtxt, decltype(&xmlFreeParserCtxt)> m_parser;
+    std::vector<XmlAttribute> m_attributes;
+    std::exception_ptr m_exception;
+    bool m_refused = false;
+};
+
+} // namespace
+
+bool ReadXml(const QByteArray& utf8, XmlHandler& handler)
+{
+    const bool readable = !utf8.isEmpty() && utf8.size() <= std::numeric_limits<int>::max() &&
+                          WithinTagBounds({utf8.constData(), static_cast<std::size_t>(utf8.size())});
+    return readable && Reading(utf8, handler).Run();
+}
+
+std::optional<QByteArray> XmlUtf8(const QString& text)
+{
+    QStringEncoder encoder(QStringConverter::Utf8);
+    QByteArray utf8 = encoder(text);
+    // The encoder keeps half a pair at the end back, waiting for the other half.
+    const bool endsInHalfAPair = !text.isEmpty() && text.back().isHighSurrogate();
+    if (encoder.hasError() || endsInHalfAPair || utf8.contains('\0'))
+        return std::nullopt;
+    return utf8;
+}
+
+} // namespace schedules

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+#include <span>
+#include <string_view>
+
+namespace schedules {
+
+/// An attribute of a start tag; name and value are UTF-8, entities resolved.
+struct XmlAttribute
+{
+    std::string_view name;
+    std::string_view value;
+    bool inNamespace = false;
+};
+
+/// The start tag of an element, while it is being read.
+struct XmlStartTag
+{
+    std::string_view name;
+    bool inNamespace = false;
+    std::span<const XmlAttribute> attributes;
+
+    /// Whether this is an element of that name in no namespace.
+    bool Is(std::string_view wanted) const { return !inNamespace && name == wanted; }
+};
+
+/// What a document consists of, told in document order. Exceptions stop the reading and come out of `ReadXml`.
+class XmlHandler
+{
+public:
+    virtual ~XmlHandler() = default;
+
+    virtual void StartElement(const XmlStartTag& tag) = 0;
+    virtual void EndElement() = 0;
+
+    /// Text between markup; a long run may come in pieces.
+    virtual void Text(std::string_view text) = 0;
+
+    /// A comment, a processing instruction or a CDATA section.
+    virtual void OtherNode() = 0;
+};
+
+/// Reads a document of UTF-8 text in one pass. False when it is not well-formed, breaks the namespace rules, has a
+/// document type declaration or exceeds the bounds: elements nested 256 deep, 4,096 attributes or 1 MiB in one tag.
+/// What the handler was told before is void then. Nothing outside of the text is ever read.
+bool ReadXml(const QByteArray& utf8, XmlHandler& handler);
+
+/// A text handed over in memory as UTF-8; nothing when it holds unpaired surrogates or null characters.
+std::optional<QByteArray> XmlUtf8(const QString& text);
+
+} // namespace schedules

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "controls/SpreadGeometry.h"
+
+namespace schedules {
+
+/// The mouse held down on a sheet, from the press on. Pressed on a header, it goes for whole columns or rows.
+struct SpreadDrag
+{
+    Place from;
+    bool movedActiveCell = false;
+    bool extends = false; ///< the selection reaches further than the press
+
+    bool ByColumns() const { return from.row == 0; }
+    bool ByRows() const { return from.column == 0; }
+
+    /// The data cell up to which the selection reaches with the mouse at a point, inside of the view or not.
+    std::optional<Place> CornerAt(QPoint point, const SpreadGeometry& geometry, const Sheet& sheet) const;
+
+    /// How far the point is outside of what scrolls: so far the view is to scroll, as scroll values count.
+    QPoint Overshoot(QPoint point, const SpreadGeometry& geometry) const;
+};
+
+} // namespace schedules

@@ -1,0 +1,205 @@
+#include "grid/CSchedule.h"
+
+#include "common/Error.h"
+#include "common/StringNumbers.h"
+#include "common/modResource.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace schedules {
+
+namespace {
+
+constexpr SourceName kSource("CSchedule");
+constexpr int kWorkingColumns = 500;
+constexpr int kWorkingRows = 500;
+
+int MessageNumberOf(TableFault fault)
+{
+    switch (fault) {
+    case TableFault::NotWellFormed:
+        return kScheduleNotLoaded;
+    case TableFault::Empty:
+        return kScheduleEmpty;
+    case TableFault::NoRows:
+        return kScheduleWithoutRows;
+    case TableFault::None:
+        break;
+    }
+    return 0;
+}
+
+/// Shows the busy pointer for as long as it lives.
+class BusyPointer
+{
+public:
+    explicit BusyPointer(UserInterface& userInterface) : m_userInterface(userInterface)
+    {
+        m_userInterface.SetPointer(Pointer::Hourglass);
+    }
+    ~BusyPointer() { m_userInterface.SetPointer(Pointer::Default); }
+    Q_DISABLE_COPY_MOVE(BusyPointer)
+
+private:
+    UserInterface& m_userInterface;
+};
+
+constexpr CellRange WholeRow(Row row)
+{
+    return {{kAllColumns, row}, {kAllColumns, row}};
+}
+
+constexpr CellRange WholeColumn(Column column)
+{
+    return {{column, kAllRows}, {column, kAllRows}};
+}
+
+} // namespace
+
+CSchedule::CSchedule(UserInterface& userInterface) : m_userInterface(userInterface) {}
+
+void CSchedule::SetSched(Sheet* sheet)
+{
+    m_sched = sheet;
+    if (m_sched)
+        SchedInitialize();
+}
+
+bool CSchedule::SchedInitialize()
+{
+    return Reported(m_userInterface, kSource.In(__func__), false, [&] {
+        RequireSheet();
+        m_sched->Reset();
+        m_sched->SetDefaultColumnWidth(m_defaultColWidth);
+        m_sched->SetSize(0, 0);
+        SetGridSize(kWorkingColumns, kWorkingRows);
+        return true;
+    });
+}
+
+QString CSchedule::Title() const
+{
+    return m_title ? *m_title : LoadResString(kDefaultTitle);
+}
+
+bool CSchedule::LoadScheduleData(const QString& xml)
+{
+    return Reported(m_userInterface, kSource.In(__func__), false, [&] {
+        RequireSheet();
+        ResetFilledSheet();
+        const bool loaded = LoadXmlIntoSpreadSheet(xml);
+        SchedAutoSize();
+        AutoSizeRowHeader();
+        SchedFormatData(1);
+        StyleHeaderRow(VerticalAlignment::Center);
+        StyleRowHeaders();
+        return loaded;
+    });
+}
+
+bool CSchedule::LoadSelectionData(const QString& xml, bool selectAllTags)
+{
+    return Reported(m_userInterface, kSource.In(__func__), false, [&] {
+        RequireSheet();
+        const bool loaded = LoadXmlIntoSpreadSheet(xml);
+        if (loaded)
+            TickCheckBoxes(selectAllTags);
+        SchedAutoSize();
+        SchedFormatData(3);
+        StyleHeaderRow(VerticalAlignment::Top);
+        return loaded;
+    });
+}
+
+void CSchedule::RequireSheet() const
+{
+    if (!m_sched)
+        throw Error(kUnexpectedError, QStringLiteral("No sheet is attached to the schedule."));
+}
+
+void CSchedule::ResetFilledSheet()
+{
+    if (!HasData())
+        return;
+    m_sched->Reset();
+    SetGridSize(kWorkingColumns, kWorkingRows);
+}
+
+bool CSchedule::LoadXmlIntoSpreadSheet(const QString& xml)
+{
+    return Reported(m_userInterface, kSource.In(__func__), false, [&] {
+        const BusyPointer busy(m_userInterface);
+        ParsedTable parsed = ParseScheduleTable(xml);
+        if (parsed.fault != TableFault::None) {
+            const int number = MessageNumberOf(parsed.fault);
+            m_userInterface.Show({LoadResString(number), kOkOnly, {}, number});
+            return false;
+        }
+        PlaceTable(std::move(parsed.table));
+        return true;
+    });
+}
+
+void CSchedule::PlaceTable(ScheduleTable table)
+{
+    // Placing every cell (c, r) at column r, row c is the same as taking the table's lines for columns.
+    m_sched->Adopt(std::move(table.cells), m_transposeData ? Lines::AreColumns : Lines::AreRows);
+    std::ranges::for_each(table.rows, [this](const RowAttributes& row) { ApplyRow(row); });
+    for (int index = 0; index < std::ssize(table.headers); ++index)
+        ApplyHeader(index, table.headers[index]);
+}
+
+void CSchedule::ApplyRow(const RowAttributes& row)
+{
+    const bool transposed = RowsActOnColumns();
+    if (transposed && row.bold && !row.userDefined)
+        HideColumn(Column(row.row));
+    if (row.hidden)
+        transposed ? HideColumn(Column(row.row)) : HideRow(Row(row.row));
+    if (transposed && row.bold)
+        m_sched->SetBold(WholeRow(Row(row.row)), true);
+    if (row.backColor)
+        m_sched->SetBackColor(transposed ? WholeRow(Row(row.row)) : WholeColumn(Column(row.row)), row.backColor);
+}
+
+void CSchedule::ApplyHeader(int index, const HeaderAttributes& header)
+{
+    if (header.hidden && RowsActOnColumns())
+        HideColumn(Column(index));
+    if (header.hidden && m_schedOrientation == 0)
+        HideRow(Row(index));
+    if (header.bold)
+        m_sched->SetBold(WholeColumn(Column(index)), true);
+    if (header.backColor) {
+        const bool wholeRow = m_schedOrientation == 0;
+        m_sched->SetBackColor(wholeRow ? WholeRow(Row(index)) : WholeColumn(Column(index)), header.backColor);
+    }
+}
+
+void CSchedule::TickCheckBoxes(bool ticked)
+{
+    const QString text = ticked ? QStringLiteral("1") : QStringLiteral("0");
+    for (const Cell cell : m_sched->CellsOfType(CellType::CheckBox))
+        m_sched->SetText(cell, text);
+}
+
+void CSchedule::SetGridSize(int columns, int rows)
+{
+    if (RowsActOnColumns())
+        std::swap(columns, rows);
+    m_sched->SetSize(columns, rows);
+}
+
+void CSchedule::HideRow(Row row)
+{
+    m_sched->SetHidden(row, true);
+}
+
+void CSchedule::HideColumn(Column column)
+{
+    m_sched->SetHidden(column, true);
+}
+
+} // namespace schedules

@@ -1,0 +1,116 @@
+#pragma once
+
+#include "common/UserInterface.h"
+#include "grid/ScheduleTable.h"
+#include "spread/Sheet.h"
+
+#include <QString>
+
+namespace schedules {
+
+/// The schedule grid engine: fills a sheet from the XML of a schedule table, lays it out and prints it.
+///
+/// A failed load shows a message, leaves the sheet as it was after the reset, and returns false. Unexpected failures
+/// are told to the shared reporter; nothing is thrown.
+class CSchedule
+{
+public:
+    explicit CSchedule(UserInterface& userInterface);
+
+    /// The sheet that the engine fills. A sheet that is attached is initialised; the caller keeps owning it.
+    Sheet* Sched() const { return m_sched; }
+    void SetSched(Sheet* sheet);
+
+    /// Brings the sheet into its empty starting state, 500 by 500 cells of plain text.
+    bool SchedInitialize();
+
+    /// Loads a schedule; a sheet that holds data is reset first.
+    bool LoadScheduleData(const QString& xml);
+
+    /// Loads the table of the selector view, without a reset. Every check box then reads "1" or "0".
+    bool LoadSelectionData(const QString& xml, bool selectAllTags);
+
+    /// Shrinks the sheet to the cells that hold data.
+    void SchedAutoSize();
+
+    /// Sizes the row-header column to its text.
+    void AutoSizeRowHeader();
+
+    /// Lays the sheet out after a change of `ShowUnits`. Its contents are gone then; the caller fills it again.
+    void SchedShowUnits();
+
+    /// "(ft)" for the unit "ft", nothing for no unit.
+    static QString GetUnitLabel(const QString& unit);
+
+    // 1: the lines of the table are shown as columns, and what its rows set acts on columns; see
+    // docs/schedule-xml.md for where each attribute lands.
+    int SchedOrientation() const { return m_schedOrientation; }
+    void SetSchedOrientation(int orientation) { m_schedOrientation = orientation; }
+
+    /// Whether cell and row index are swapped when cells are placed.
+    bool TransposeData() const { return m_transposeData; }
+    void SetTransposeData(bool transpose) { m_transposeData = transpose; }
+
+    int DefaultColWidth() const { return m_defaultColWidth; }
+    void SetDefaultColWidth(int twips) { m_defaultColWidth = twips; }
+
+    bool ShowUnits() const { return m_showUnits; }
+    void SetShowUnits(bool show) { m_showUnits = show; }
+
+    bool ShowGroupHeaders() const { return m_showGroupHeaders; }
+    void SetShowGroupHeaders(bool show) { m_showGroupHeaders = show; }
+
+    /// Whether there are edited values that have not been saved.
+    bool TagDataDirty() const { return m_tagDataDirty; }
+    void SetTagDataDirty(bool dirty) { m_tagDataDirty = dirty; }
+
+    QString TemplateName() const { return m_templateName; }
+    void SetTemplateName(const QString& name) { m_templateName = name; }
+
+    int TemplateID() const { return m_templateID; }
+    void SetTemplateID(int id) { m_templateID = id; }
+
+    /// The localised default title as long as nobody has set one.
+    QString Title() const;
+    void SetTitle(const QString& title) { m_title = title; }
+
+private:
+    /// Throws `Error` when no sheet is attached.
+    void RequireSheet() const;
+
+    bool LoadXmlIntoSpreadSheet(const QString& xml);
+    void PlaceTable(ScheduleTable table);
+    void ApplyRow(const RowAttributes& row);
+    void ApplyHeader(int index, const HeaderAttributes& header);
+    void ResetFilledSheet();
+    void TickCheckBoxes(bool ticked);
+
+    void SetGridSize(int columns, int rows);
+    void HideRow(Row row);
+    void HideColumn(Column column);
+
+    bool SchedFormatData(int firstColumn);
+    void AlignDataColumns(int firstColumn);
+    void SizeColumns(int firstColumn);
+    void StyleHeaderRow(VerticalAlignment alignment);
+    void StyleRowHeaders();
+    bool HasData() const;
+    bool RowsActOnColumns() const { return m_schedOrientation == 1; }
+    int WidthOf(Column column) const;
+
+    UserInterface& m_userInterface;
+    Sheet* m_sched = nullptr;
+    int m_schedOrientation = 0;
+    bool m_transposeData = false;
+    int m_defaultColWidth = 1440;
+    bool m_showUnits = true;
+    bool m_showGroupHeaders = false;
+    bool m_tagDataDirty = false;
+    QString m_templateName = QStringLiteral("(Default)");
+    int m_templateID = 0;
+    std::optional<QString> m_title;
+    int m_columnMargin = 0;
+    int m_headerRowMinimumHeight = 0;
+};
+
+} // namespace schedules

@@ -1,0 +1,36 @@
+#include "grid/ScheduleTable.h"
+
+#include "common/PlainXml.h"
+#include "common/XmlReader.h"
+#include "grid/ScheduleReader.h"
+
+namespace schedules {
+
+namespace {
+
+std::optional<ScheduleReader> Read(const QByteArray& utf8)
+{
+    for (const auto readDocument : {ReadPlainXml, ReadXml}) {
+        ScheduleReader reader;
+        if (readDocument(utf8, reader))
+            return reader;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+ParsedTable ParseScheduleTable(const QString& xml)
+{
+    const auto utf8 = XmlUtf8(xml);
+    auto reader = utf8 ? Read(*utf8) : std::nullopt;
+    if (!reader)
+        return {TableFault::NotWellFormed, {}};
+    if (!reader->SawRoot())
+        return {TableFault::Empty, {}};
+    if (reader->RowCount() == 0)
+        return {TableFault::NoRows, {}};
+    return {TableFault::None, reader->Take()};
+}
+
+} // namespace schedules

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+
+namespace schedules {
+
+enum class CellType : std::uint8_t
+{
+    StaticText,
+    CheckBox
+};
+
+enum class DataType : std::uint8_t
+{
+    Text,
+    Integer,
+    Long,
+    Single,
+    Double,
+    Currency,
+    CheckBox,
+    Number
+};
+
+/// What a cell is, beside its text. Few different ones occur in a table, however large it is.
+struct CellStyle
+{
+    CellType type = CellType::StaticText;
+    DataType dataType = DataType::Text;
+    bool allowEdit = false;
+    bool userDefined = false;
+
+    bool operator==(const CellStyle&) const = default;
+};
+
+/// The numbers are those of the grid's alignment options.
+enum class HorizontalAlignment : std::uint8_t
+{
+    Left = 0,
+    Data = 1, ///< numbers at the far edge, other texts at the near one
+    Center = 2
+};
+
+enum class VerticalAlignment : std::uint8_t
+{
+    Top = 0,
+    Bottom = 1,
+    Center = 2
+};
+
+} // namespace schedules

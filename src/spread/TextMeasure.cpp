@@ -1,0 +1,78 @@
+#include "spread/TextMeasure.h"
+
+#include <QString>
+
+#include <algorithm>
+#include <cmath>
+
+namespace schedules {
+
+namespace {
+
+QFont MeasuringFont(const QFont& font, bool bold)
+{
+    QFont sized(font);
+    const double points = font.pointSizeF() > 0 ? font.pointSizeF() : font.pixelSize() * 0.75;
+    sized.setPixelSize(std::max(1, static_cast<int>(std::lround(points * 20))));
+    sized.setHintingPreference(QFont::PreferNoHinting);
+    sized.setBold(bold);
+    return sized;
+}
+
+} // namespace
+
+TextMeasure::Face::Face(const QFont& font) : metrics(font), latin(metrics, 0) {}
+
+LearnedAdvances* TextMeasure::Face::AdvancesFor(std::string_view utf8)
+{
+    const auto letter = LetterOfOwnScript(utf8);
+    if (!letter)
+        return nullptr;
+    if (*letter == 0)
+        return &latin;
+    return &scripts.try_emplace(QChar::script(*letter), metrics, *letter).first->second;
+}
+
+TextMeasure::TextMeasure(const QFont& font)
+    : m_regular(std::make_unique<Face>(MeasuringFont(font, font.bold()))),
+      m_bold(std::make_unique<Face>(MeasuringFont(font, true)))
+{
+}
+
+int TextMeasure::Exact(std::string_view utf8, bool bold) const
+{
+    const QString text = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+    return static_cast<int>(std::ceil(FaceOf(bold).metrics.horizontalAdvance(text)));
+}
+
+int TextMeasure::Learned(std::string_view utf8, bool bold)
+{
+    // Texts of ASCII alone are most, and need no look at their script.
+    Face& face = FaceOf(bold);
+    const char* at = utf8.data();
+    const char* const end = at + utf8.size();
+    char32_t before = 0;
+    const int quick = face.latin.QuickWidth(at, end, before);
+    if (at == end)
+        return quick;
+    LearnedAdvances* advances = face.AdvancesFor(utf8);
+    return advances ? advances->Width(utf8) : -1;
+}
+
+int TextMeasure::LineHeight(const QFont& font)
+{
+    return static_cast<int>(std::ceil(QFontMetricsF(MeasuringFont(font, font.bold())).height()));
+}
+
+void WidestText::Consider(std::string_view utf8, bool bold, TextMeasure& measure)
+{
+    if (utf8.empty())
+        return;
+    const int learned = measure.Learned(utf8, bold);
+    if (learned >= 0 && learned <= m_learned)
+        return;
+    m_learned = std::max(m_learned, learned);
+    m_exact = std::max(m_exact, measure.Exact(utf8, bold));
+}
+
+} // namespace schedules

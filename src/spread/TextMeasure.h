@@ -1,0 +1,69 @@
+#pragma once
+
+#include "spread/LearnedAdvances.h"
+
+#include <QFont>
+#include <QFontMetricsF>
+
+#include <map>
+#include <memory>
+#include <string_view>
+
+namespace schedules {
+
+/// Widths of texts in a font, in twips, independent of any screen: the font is measured at a size where a pixel is
+/// a twip, without hinting.
+///
+/// Shaping every text of a table would take longer than everything else together. The width of a text is the advance
+/// of its first character plus, for each further one, what it adds after the one before it, so that kerning counts.
+/// Both are learned from the font when they first turn up. Texts in scripts where more than two neighbours decide, and
+/// texts of several scripts, go to the font itself.
+class TextMeasure
+{
+public:
+    explicit TextMeasure(const QFont& font);
+
+    /// What the font's own metrics say: the width rounded up.
+    int Exact(std::string_view utf8, bool bold) const;
+
+    /// The learned width, in 64ths of a twip; -1 for a text that only the font can measure.
+    int Learned(std::string_view utf8, bool bold);
+
+    /// Height of a line of text, in twips.
+    static int LineHeight(const QFont& font);
+
+private:
+    /// What a face, regular or bold, has taught so far.
+    struct Face
+    {
+        explicit Face(const QFont& font);
+
+        /// What is known of the script of a text; nothing when it is of several.
+        LearnedAdvances* AdvancesFor(std::string_view utf8);
+
+        QFontMetricsF metrics;
+        LearnedAdvances latin;
+        std::map<QChar::Script, LearnedAdvances> scripts;
+    };
+
+    Face& FaceOf(bool bold) const { return bold ? *m_bold : *m_regular; }
+
+    std::unique_ptr<Face> m_regular;
+    std::unique_ptr<Face> m_bold;
+};
+
+/// Keeps the widest of many texts, by learned widths, and asks the font only about those that may be the widest.
+class WidestText
+{
+public:
+    void Consider(std::string_view utf8, bool bold, TextMeasure& measure);
+
+    /// In twips.
+    int Width() const { return m_exact; }
+
+private:
+    int m_learned = -1;
+    int m_exact = 0;
+};
+
+} // namespace schedules

@@ -1,0 +1,269 @@
+#include "tools/schedule/ctlSchedule.h"
+
+#include "common/CResEnum.h"
+#include "common/StringNumbers.h"
+#include "common/modResource.h"
+#include "controls/DesktopUserInterface.h"
+#include "controls/SpreadView.h"
+#include "tools/schedule/RepaintingOff.h"
+#include "tools/schedule/ScheduleToolbar.h"
+#include "tools/schedule/ScheduleTools.h"
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace schedules {
+
+namespace {
+
+constexpr auto kRowsLegend = "Note: the first data row contains selection requirements only.";
+constexpr auto kColumnsLegend = "Note: the first data column contains selection requirements only.";
+
+template <class Widget, class... Arguments>
+Widget* Named(const char* name, Arguments&&... arguments)
+{
+    auto* widget = new Widget(std::forward<Arguments>(arguments)...);
+    widget->setObjectName(QLatin1String(name));
+    return widget;
+}
+
+} // namespace
+
+ctlSchedule::ctlSchedule(UserInterface* userInterface)
+    : ToolControl("ctlSchedule", userInterface),
+      m_engine(userInterface ? *userInterface : Own(std::make_unique<DesktopUserInterface>(this)))
+{
+    BuildControls();
+    BuildLayout();
+    ConnectControls();
+    TraceProcedure("UserControl_Initialize");
+}
+
+ctlSchedule::~ctlSchedule()
+{
+    Disconnect();
+    m_spread->SetSheet(nullptr);
+    m_engine.SetSched(nullptr);
+    m_sheet = nullptr;
+    TraceProcedure("UserControl_Terminate");
+}
+
+void ctlSchedule::BuildControls()
+{
+    m_sheet = new Sheet(this);
+    m_customMessage = new CustomMessage(this);
+    m_toolbar = new ScheduleToolbar(this);
+    m_spread = Named<SpreadView>("vaSpread1", this);
+    m_legend = Named<QLabel>("lblLegend", this);
+    m_legend->setWordWrap(true);
+    m_legend->hide();
+    m_continue = Named<QPushButton>("cmdContinue", QStringLiteral("Continue"), this);
+    m_continue->hide();
+    m_cancel = Named<QPushButton>("cmdCancel", QStringLiteral("Cancel"), this);
+    m_spread->SetSheet(m_sheet);
+    m_engine.SetSched(m_sheet);
+    setFocusProxy(m_spread);
+}
+
+void ctlSchedule::BuildLayout()
+{
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(m_continue);
+    buttons->addWidget(m_cancel);
+
+    auto* view = new QVBoxLayout(this);
+    view->addWidget(m_customMessage);
+    view->addWidget(m_toolbar);
+    view->addWidget(m_spread, 1);
+    view->addWidget(m_legend);
+    view->addLayout(buttons);
+}
+
+void ctlSchedule::ConnectControls()
+{
+    connect(m_toolbar, &ScheduleToolbar::ViewToolClicked, this, &ctlSchedule::ab_ToolClick);
+    connect(m_toolbar, &ScheduleToolbar::HostToolClicked, this, &ctlSchedule::HostToolClicked);
+    connect(m_cancel, &QPushButton::clicked, this, &ctlSchedule::cmdCancel_Click);
+}
+
+void ctlSchedule::resizeEvent(QResizeEvent* event)
+{
+    ToolControl::resizeEvent(event);
+    ResizeUserControl();
+}
+
+void ctlSchedule::ResizeUserControl()
+{
+    // A long message scrolls; the grid is what the view is for.
+    TellingHost(__func__, [this] { m_customMessage->setMaximumHeight(height() / 3); });
+}
+
+bool ctlSchedule::IsScheduleView() const
+{
+    return m_viewType == static_cast<int>(CResEnum::eViewType::vtSCHEDULE_VIEW);
+}
+
+bool ctlSchedule::IsSelectorView() const
+{
+    return m_viewType == static_cast<int>(CResEnum::eViewType::vtSELECTOR_VIEW);
+}
+
+void ctlSchedule::IToolUI_Initialize(IMsgRouter* msgRouter, const QString& sOwner)
+{
+    StartUp(msgRouter, sOwner, "InitializeSchedule");
+}
+
+void ctlSchedule::IToolUI_XML(const QString& sData)
+{
+    m_scheduleXml = sData;
+    m_xmlIsNew = true;
+}
+
+void ctlSchedule::IToolUI_Activate()
+{
+    TellingUser(__func__, [this] {
+        TraceProcedure("IToolUI_Activate");
+        Activate();
+    });
+}
+
+void ctlSchedule::IToolUI_Deactivate([[maybe_unused]] bool bCancel)
+{
+    TraceProcedure(__func__);
+}
+
+void ctlSchedule::Activate()
+{
+    ShowCommandButtons();
+    StartNormalLayout();
+    if (std::exchange(m_xmlIsNew, false))
+        SetTagDataDirty(false);
+    if (!ShowHeldXml())
+        return;
+    InitializeControls();
+    IgnoringErrors([this] { FollowTagDataDirty(); });
+}
+
+void ctlSchedule::StartNormalLayout()
+{
+    m_engine.SetSchedOrientation(IsSelectorView() ? 1 : 0);
+    m_engine.SetTransposeData(false);
+    FreezeRows(m_rowsFrozenByHost);
+    FreezeColumns(m_colsFrozenByHost);
+}
+
+bool ctlSchedule::ShowHeldXml()
+{
+    if (IsSelectorView() ? LoadSelection() : LoadSchedule())
+        return true;
+    ShowBox(IsSelectorView() ? kSelectionNotShown : kScheduleNotShown);
+    return false;
+}
+
+bool ctlSchedule::LoadSchedule()
+{
+    m_sheet = m_engine.Sched();
+    const RepaintingOff off(*m_sheet);
+    m_legend->hide();
+    return m_engine.LoadScheduleData(m_scheduleXml);
+}
+
+bool ctlSchedule::LoadSelection()
+{
+    m_sheet = m_engine.Sched();
+    const RepaintingOff off(*m_sheet);
+    if (!m_engine.SchedInitialize() || !m_engine.LoadSelectionData(m_scheduleXml, m_selectAllTags))
+        return false;
+    UpdateLegend();
+    return true;
+}
+
+bool ctlSchedule::LoadScheduleData(const QString& sData)
+{
+    bool loaded = false;
+    TellingUser(__func__, [&] {
+        m_continue->hide();
+        HoldNewXml(sData);
+        loaded = LoadSchedule();
+        if (!loaded)
+            ShowBox(kScheduleNotLoadable);
+    });
+    return loaded;
+}
+
+bool ctlSchedule::LoadSelectionData(const QString& sData)
+{
+    bool loaded = false;
+    TellingUser(__func__, [&] {
+        m_continue->show();
+        HoldNewXml(sData);
+        loaded = LoadSelection();
+        if (!loaded)
+            ShowBox(kSelectionNotLoadable);
+    });
+    return loaded;
+}
+
+void ctlSchedule::HoldNewXml(const QString& xml)
+{
+    m_scheduleXml = xml;
+    m_xmlIsNew = false;
+    SetTagDataDirty(false);
+}
+
+void ctlSchedule::ShowBox(int textNumber)
+{
+    Ui().Show({LoadResString(textNumber), kOkOnly, {}, textNumber});
+}
+
+void ctlSchedule::UpdateLegend()
+{
+    if (m_rowsFrozen != 0)
+        m_legend->setText(QLatin1String(kRowsLegend));
+    else if (m_colsFrozen != 0)
+        m_legend->setText(QLatin1String(kColumnsLegend));
+    m_legend->setVisible(m_rowsFrozen != 0 || m_colsFrozen != 0);
+}
+
+void ctlSchedule::SetRowsFrozen(int count)
+{
+    m_rowsFrozenByHost = count;
+    FreezeRows(count);
+}
+
+void ctlSchedule::SetColsFrozen(int count)
+{
+    m_colsFrozenByHost = count;
+    FreezeColumns(count);
+}
+
+void ctlSchedule::FreezeRows(int count)
+{
+    m_rowsFrozen = count;
+    IgnoringErrors([&] { m_engine.Sched()->SetFrozenRows(count); });
+}
+
+void ctlSchedule::FreezeColumns(int count)
+{
+    m_colsFrozen = count;
+    IgnoringErrors([&] { m_engine.Sched()->SetFrozenColumns(count); });
+}
+
+void ctlSchedule::CleanUP()
+{
+    TellingHost(__func__, [this] {
+        Sheet* const sheet = std::exchange(m_sheet, nullptr);
+        if (!sheet)
+            return;
+        sheet->Reset();
+        sheet->SetSize(0, 0);
+    });
+}
+
+} // namespace schedules

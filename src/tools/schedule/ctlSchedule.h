@@ -1,0 +1,170 @@
+#pragma once
+
+#include "grid/CSchedule.h"
+#include "spread/Sheet.h"
+#include "tools/ToolControl.h"
+#include "tools/schedule/CustomMessage.h"
+#include "tools/schedule/ToolIdentifiers.h"
+
+class QLabel;
+class QPushButton;
+
+namespace schedules {
+
+class ScheduleToolbar;
+class SpreadView;
+
+/// The schedule view: shows a schedule, or a table of tags to select from, in a grid with a tool bar.
+///
+/// A host sets the properties, then drives the view through `IToolUI`. `ShowPrintButtonOnUnitSelector` and the
+/// properties whose names begin with `CustomMsg` are meant to be set only; reading them gives what was set. They and
+/// `ViewType`, `BuilderPdsg` and `SelectAllTags` are stored and take effect where they are used next.
+class ctlSchedule : public ToolControl
+{
+    Q_OBJECT
+
+    /// Passed back to the host with what the view sends.
+    Q_PROPERTY(QString BuilderPdsg MEMBER m_builderPdsg)
+    /// A number of `CResEnum::eViewType`; any other shows a schedule without tools.
+    Q_PROPERTY(int ViewType MEMBER m_viewType)
+    Q_PROPERTY(bool ShowPrintButtonOnUnitSelector MEMBER m_printsSelections)
+    Q_PROPERTY(QString CustomMsg MEMBER m_customText)
+    Q_PROPERTY(bool CustomMsgBold MEMBER m_customBold)
+    Q_PROPERTY(bool CustomMsgItalic MEMBER m_customItalic)
+    /// 0 left, 1 right, 2 centre.
+    Q_PROPERTY(int CustomMsgAlignment MEMBER m_customAlignment)
+    /// Rows and columns that do not scroll. Setting them acts on the grid at once; Transpose exchanges the two, and
+    /// the next activation goes back to what was set.
+    Q_PROPERTY(int RowsFrozen READ RowsFrozen WRITE SetRowsFrozen)
+    Q_PROPERTY(int ColsFrozen READ ColsFrozen WRITE SetColsFrozen)
+    Q_PROPERTY(bool SelectAllTags MEMBER m_selectAllTags)
+    /// Whether there are edited values that have not been saved.
+    Q_PROPERTY(bool TagDataDirty READ TagDataDirty)
+    /// How the grid is laid out now, see `CSchedule`.
+    Q_PROPERTY(int SchedOrientation READ SchedOrientation)
+    Q_PROPERTY(bool TransposeData READ TransposeData)
+    /// What the grid shows; null after `CleanUP`.
+    Q_PROPERTY(schedules::Sheet* sheet READ ShownSheet)
+
+public:
+    /// Without a user interface the desktop's is used; one that is given must outlive the view.
+    explicit ctlSchedule(UserInterface* userInterface = nullptr);
+    ~ctlSchedule() override;
+
+    void IToolUI_Initialize(IMsgRouter* msgRouter, const QString& sOwner) override;
+    void IToolUI_XML(const QString& sData) override;
+    void IToolUI_Activate() override;
+    void IToolUI_Deactivate(bool bCancel) override;
+
+    /// Shows a schedule or a table of tags at once and keeps its text. A failure is shown and gives false.
+    Q_INVOKABLE bool LoadScheduleData(const QString& sData);
+    Q_INVOKABLE bool LoadSelectionData(const QString& sData);
+
+    /// A number for a tool, 1001 for the first one; 0, and an error told to the host, when there are no more.
+    Q_INVOKABLE int GetUniqueToolID();
+
+    /// Adds a tool of the host at the end of the tool bar: a plain button, for `lToolType` 1 a separator, for 2 a
+    /// check button. `lImage` is its picture's number in the view's list of images, 0 for none. A key that exists is
+    /// not added twice. `HostToolClicked` tells of clicks.
+    Q_INVOKABLE void AddMenu(const QString& sOwner, const QString& sKey, int lImage, const QString& sText,
+                             const QString& sToolTipText, bool bVisible, int lToolType);
+
+    /// Empties the grid and lets go of it.
+    Q_INVOKABLE void CleanUP();
+
+    /// Sorting by the active column: this view keeps the order of the document.
+    Q_INVOKABLE void DoColSort() {}
+
+    /// Does what a click on the tool of that key does; nothing for a key that is none of the view's.
+    Q_INVOKABLE void ab_ToolClick(const QString& key);
+
+    int RowsFrozen() const { return m_rowsFrozen; }
+    void SetRowsFrozen(int count);
+    int ColsFrozen() const { return m_colsFrozen; }
+    void SetColsFrozen(int count);
+    bool TagDataDirty() const { return m_engine.TagDataDirty(); }
+    int SchedOrientation() const { return m_engine.SchedOrientation(); }
+    bool TransposeData() const { return m_engine.TransposeData(); }
+    Sheet* ShownSheet() const { return m_sheet; }
+
+Q_SIGNALS:
+    /// A tool that the host added was clicked.
+    void HostToolClicked(const QString& owner, const QString& key);
+
+protected:
+    /// Sets whether there are edited values; the Save tool is enabled as long as there are.
+    void SetTagDataDirty(bool dirty);
+
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    using Command = void (ctlSchedule::*)();
+
+    void BuildControls();
+    void BuildLayout();
+    void ConnectControls();
+    void ResizeUserControl();
+
+    bool IsScheduleView() const;
+    bool IsSelectorView() const;
+
+    // Showing the held document.
+    void Activate();
+    void StartNormalLayout();
+    bool ShowHeldXml();
+    bool LoadSchedule();
+    bool LoadSelection();
+    void HoldNewXml(const QString& xml);
+    void ShowBox(int textNumber);
+    void UpdateLegend();
+    void FreezeRows(int count);
+    void FreezeColumns(int count);
+
+    // The controls around the grid.
+    void InitializeControls();
+    void AddToolbarButton(const QString& key, int image, const QString& caption, const QString& tooltip, bool visible);
+    void ShowCommandButtons();
+    void ShowCustomMessage();
+    void FollowTagDataDirty();
+
+    // Commands.
+    static Command CommandOf(const QString& key);
+    void Transpose();
+    void Customize();
+    void Help();
+    void Save();
+    void UpdateTagScheduleData();
+    void cmdCancel_Click();
+    bool MayUnload();
+    void SaveBeforeUnloading();
+
+    CSchedule m_engine;
+    ToolIdentifiers m_toolIdentifiers;
+
+    CustomMessage* m_customMessage = nullptr;
+    ScheduleToolbar* m_toolbar = nullptr;
+    SpreadView* m_spread = nullptr;
+    QLabel* m_legend = nullptr;
+    QPushButton* m_continue = nullptr;
+    QPushButton* m_cancel = nullptr;
+    Sheet* m_sheet = nullptr;
+
+    QString m_scheduleXml;
+    bool m_xmlIsNew = false;    ///< the host has handed over text that no activation has loaded yet
+    bool m_initialised = false; ///< the controls around the grid have been set up
+
+    QString m_builderPdsg;
+    int m_viewType = 0;
+    bool m_printsSelections = false;
+    QString m_customText;
+    bool m_customBold = false;
+    bool m_customItalic = false;
+    int m_customAlignment = 0;
+    int m_rowsFrozen = 0;
+    int m_colsFrozen = 0;
+    int m_rowsFrozenByHost = 0;
+    int m_colsFrozenByHost = 0;
+    bool m_selectAllTags = false;
+};
+
+} // namespace schedules
