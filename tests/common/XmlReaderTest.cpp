@@ -1,0 +1,175 @@
+#include "common/XmlReader.h"
+
+#include "support/BadXml.h"
+
+#include <QElapsedTimer>
+
+#include <gtest/gtest.h>
+#include <stdexcept>
+
+using namespace schedules;
+using namespace schedules::testing;
+
+namespace {
+
+/// Writes down what it is told: "<name attribute=value" in "{}" when in a namespace, "|text", "*" and ">".
+class Recorder : public XmlHandler
+{
+public:
+    void StartElement(const XmlStartTag& tag) override
+    {
+        Write("<" + std::string(tag.name) + (tag.inNamespace ? "{}" : ""));
+        for (const XmlAttribute& attribute : tag.attributes)
+            told += " " + std::string(attribute.name) + (attribute.inNamespace ? "{}" : "") + "=" +
+                    std::string(attribute.value);
+    }
+
+    void EndElement() override { Write(">"); }
+
+    void Text(std::string_view text) override
+    {
+        told += (m_inText ? "" : "|") + std::string(text);
+        m_inText = true;
+    }
+
+    void OtherNode() override { Write("*"); }
+
+    std::string told;
+
+private:
+    void Write(const std::string& text)
+    {
+        told += text;
+        m_inText = false;
+    }
+
+    bool m_inText = false;
+};
+
+/// What is told of a document; "refused" when it is not read.
+std::string Told(const QByteArray& document)
+{
+    Recorder recorder;
+    return ReadXml(document, recorder) ? recorder.told : "refused";
+}
+
+struct XmlReaderBad : ::testing::TestWithParam<BadXml>
+{
+};
+
+/// The offending texts alone; the file that some name does not exist here.
+std::vector<BadXml> Bad()
+{
+    return BadDocuments(QStringLiteral("/nowhere"));
+}
+
+std::string NameOf(const ::testing::TestParamInfo<BadXml>& tested)
+{
+    return tested.param.name;
+}
+
+} // namespace
+
+TEST(XmlReader, TellsElementsAttributesAndTexts)
+{
+    EXPECT_EQ(Told("<a b='1' c=\"2\">x<d/>y</a>"), "<a b=1 c=2|x<d>|y>");
+}
+
+TEST(XmlReader, TellsThatThereAreOtherNodes)
+{
+    EXPECT_EQ(Told("<a><!-- c --><?p i?><![CDATA[x]]></a>"), "<a***>");
+}
+
+TEST(XmlReader, ResolvesEntitiesAndCharacterReferences)
+{
+    EXPECT_EQ(Told("<a b='&lt;&amp;&quot;&#65;'>&lt;&gt;&amp;&apos;&quot;&#x416;</a>"), "<a b=<&\"A|<>&'\"Ж>");
+}
+
+TEST(XmlReader, ReadsTextsOfAnyScript)
+{
+    EXPECT_EQ(Told("<a>Насос 水 𝄞</a>"), "<a|Насос 水 𝄞>");
+}
+
+TEST(XmlReader, NormalisesLineEndsAndAttributeBlanks)
+{
+    EXPECT_EQ(Told("<a b='1\t2\n3'>x\r\ny</a>"), "<a b=1 2 3|x\ny>");
+}
+
+TEST(XmlReader, TellsNamespacesApart)
+{
+    EXPECT_EQ(Told("<a xmlns:p='u'><p:b p:c='1' c='2'/><d xmlns='v' e='3'/></a>"), "<a<b{} c{}=1 c=2><d{} e=3>>");
+    EXPECT_EQ(Told("<a xml:space='preserve'/>"), "<a space{}=preserve>");
+}
+
+TEST(XmlReader, ADeclaredEncodingOfATextInMemoryIsIgnored)
+{
+    for (const char* encoding : {"UTF-8", "UTF-16", "ISO-8859-1", "windows-1251", "nonsense"}) {
+        const QByteArray text = QByteArray("<?xml version=\"1.0\" encoding=\"") + encoding + "\"?><a>Ж</a>";
+        EXPECT_EQ(Told(text), "<a|Ж>") << encoding;
+    }
+}
+
+TEST(XmlReader, AByteOrderMarkIsNoText)
+{
+    EXPECT_EQ(Told("\xEF\xBB\xBF<a/>"), "<a>");
+    EXPECT_EQ(Told("\xEF\xBB\xBF<?xml version='1.0'?><a/>"), "<a>");
+}
+
+TEST(XmlReader, ALongTextArrivesWhole)
+{
+    const QByteArray text(12'000'000, 'x');
+    EXPECT_EQ(Told("<a>" + text + "</a>"), "<a|" + text.toStdString() + ">");
+}
+
+TEST(XmlReader, ReadsUpToTheBounds)
+{
+    EXPECT_NE(Told(Nested(256).toUtf8()), "refused");
+    EXPECT_NE(Told(Attributed(4096).toUtf8()), "refused");
+    EXPECT_NE(Told(WithTagOf(1 << 20).toUtf8()), "refused");
+}
+
+TEST(XmlReader, RefusesBytesThatAreNotUtf8)
+{
+    EXPECT_EQ(Told("<a>\xE9</a>"), "refused");
+    EXPECT_EQ(Told("<a>\xC0\xAF</a>"), "refused");
+    EXPECT_EQ(Told("<a>\xED\xA0\x80</a>"), "refused");
+    EXPECT_EQ(Told(QByteArray("<\0a\0/\0>\0", 8)), "refused");
+}
+
+TEST(XmlReader, AnExceptionOfTheHandlerComesOut)
+{
+    struct Throwing : Recorder
+    {
+        void OtherNode() override { throw std::runtime_error("enough"); }
+        void EndElement() override { ++ended; }
+        int ended = 0;
+    };
+    Throwing handler;
+    EXPECT_THROW(ReadXml("<a><b/><!-- --><c/></a>", handler), std::runtime_error);
+    EXPECT_EQ(handler.ended, 1) << "nothing is told after the exception";
+}
+
+TEST_P(XmlReaderBad, IsRefusedWithinASecond)
+{
+    QElapsedTimer timer;
+    timer.start();
+    Recorder recorder;
+    const auto utf8 = XmlUtf8(GetParam().text);
+    EXPECT_FALSE(utf8 && ReadXml(*utf8, recorder)) << recorder.told;
+    EXPECT_LT(timer.elapsed(), 1000);
+}
+
+INSTANTIATE_TEST_SUITE_P(Documents, XmlReaderBad, ::testing::ValuesIn(Bad()), NameOf);
+
+TEST(XmlUtf8, EncodesAnyText)
+{
+    EXPECT_EQ(XmlUtf8(QStringLiteral("Ж水𝄞")), QByteArray("Ж水𝄞"));
+    EXPECT_EQ(XmlUtf8({}), QByteArray());
+}
+
+TEST(XmlUtf8, GivesNothingForWhatIsNoText)
+{
+    EXPECT_EQ(XmlUtf8(QStringLiteral("a") + QChar(0xD800)), std::nullopt);
+    EXPECT_EQ(XmlUtf8(QChar(0xDC00) + QStringLiteral("a")), std::nullopt);
+    EXPECT_EQ(XmlUtf8(QStringLiteral("a") + QChar(0)), std::nullopt);
+}

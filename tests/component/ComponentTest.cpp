@@ -1,0 +1,160 @@
+#include "framework/IComponentFactory.h"
+#include "framework/IMsgRouter.h"
+#include "framework/IToolUI.h"
+#include "support/ScriptedUserInterface.h"
+
+#include <QPluginLoader>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QWidget>
+
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace schedules {
+
+namespace {
+
+const QString kLibrary = QStringLiteral(SCHEDULES_BIN_DIR "/libSchedules.so");
+
+const QString kSchedule = QStringLiteral("<TABLE><TR><TH/><TH>Flow</TH></TR><TR><TH>P-1</TH><TD>12</TD></TR></TABLE>");
+
+/// A host that knows nothing but the contract.
+class Host : public IMsgRouter
+{
+public:
+    QString Send(const Envelope& envelope) override
+    {
+        bodies += envelope.body.toString();
+        return envelope.body.toString().contains(QStringLiteral("GetResourceModule")) ? QStringLiteral("0") : QString();
+    }
+
+    QStringList bodies;
+};
+
+/// The component as a host without its import library gets it: loaded at run time.
+class ComponentTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(loader.load()) << loader.errorString().toStdString();
+        factory = qobject_cast<IComponentFactory*>(loader.instance());
+        ASSERT_TRUE(factory);
+    }
+
+    std::unique_ptr<QObject> Created(const QString& name)
+    {
+        return std::unique_ptr<QObject>(factory->CreateTool(name, &user));
+    }
+
+    void Start(QObject& tool)
+    {
+        tool.setProperty("ViewType", 1);
+        auto* toolUi = qobject_cast<IToolUI*>(&tool);
+        toolUi->IToolUI_Initialize(&host, QStringLiteral("Host"));
+        toolUi->IToolUI_XML(kSchedule);
+        toolUi->IToolUI_Activate();
+    }
+
+    QPluginLoader loader{kLibrary};
+    IComponentFactory* factory = nullptr;
+    testing::ScriptedUserInterface user;
+    Host host;
+};
+
+QStringList ExportedNames()
+{
+    QProcess nm;
+    nm.start(QStringLiteral("nm"), {QStringLiteral("--dynamic"), QStringLiteral("--defined-only"),
+                                    QStringLiteral("--demangle"), QStringLiteral("--format=posix"), kLibrary});
+    nm.waitForFinished();
+    QStringList names;
+    // "name type address size"; a demangled name holds blanks.
+    static const QRegularExpression kLine(QStringLiteral("^(.*) [A-Za-z] [0-9a-f]+( [0-9a-f]+)?$"));
+    for (const QString& line : QString::fromUtf8(nm.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts))
+        names += kLine.match(line).captured(1);
+    return names;
+}
+
+} // namespace
+
+TEST_F(ComponentTest, TellsItsVersionAndItsTools)
+{
+    EXPECT_TRUE(QRegularExpression(QStringLiteral("^\\d+\\.\\d+\\.\\d+$")).match(factory->Version()).hasMatch());
+    EXPECT_TRUE(factory->ToolNames().contains(QStringLiteral("ctlSchedule")));
+}
+
+TEST_F(ComponentTest, CreatesEachToolThatItNames)
+{
+    for (const QString& name : factory->ToolNames()) {
+        const auto tool = Created(name);
+        ASSERT_TRUE(tool) << name.toStdString();
+        EXPECT_TRUE(qobject_cast<QWidget*>(tool.get()));
+        EXPECT_TRUE(qobject_cast<IToolUI*>(tool.get()));
+    }
+}
+
+TEST_F(ComponentTest, CreatesNothingForAnUnknownName)
+{
+    EXPECT_FALSE(factory->CreateTool(QStringLiteral("CTLSCHEDULE"), &user));
+    EXPECT_FALSE(factory->CreateTool(QString(), &user));
+}
+
+TEST_F(ComponentTest, DrivesAToolThroughTheToolInterface)
+{
+    const auto tool = Created(QStringLiteral("ctlSchedule"));
+    Start(*tool);
+    EXPECT_TRUE(user.boxes.empty());
+    EXPECT_EQ(host.bodies.size(), 2);
+    EXPECT_TRUE(tool->findChild<QAction*>(QStringLiteral("btnTranspose")));
+    EXPECT_TRUE(tool->property("sheet").value<QObject*>());
+}
+
+TEST_F(ComponentTest, SpeaksTheLanguageOfTheModuleInUse)
+{
+    const int german = factory->OpenResourceModule(QStringLiteral(SCHEDULES_BIN_DIR "/languages/Schedules_de.qm"));
+    ASSERT_GT(german, 0);
+    factory->UseResourceModule(german);
+    const auto tool = Created(QStringLiteral("ctlSchedule"));
+    Start(*tool);
+    factory->UseResourceModule(0);
+    factory->CloseResourceModule(german);
+
+    const auto* transpose = tool->findChild<QAction*>(QStringLiteral("btnTranspose"));
+    ASSERT_TRUE(transpose);
+    EXPECT_EQ(transpose->text(), QStringLiteral("Transpose")); // captions are the same in every language
+    EXPECT_EQ(transpose->toolTip(), QStringLiteral("Zeilen und Spalten vertauschen"));
+}
+
+TEST_F(ComponentTest, OpensNoResourceModuleThatIsNone)
+{
+    EXPECT_EQ(factory->OpenResourceModule(QStringLiteral("/nowhere.qm")), 0);
+    EXPECT_EQ(factory->OpenResourceModule(kLibrary), 0);
+}
+
+TEST_F(ComponentTest, WithAModuleInUseToolsAskForNone)
+{
+    factory->UseResourceModule(77);
+    const auto tool = Created(QStringLiteral("ctlSchedule"));
+    qobject_cast<IToolUI*>(tool.get())->IToolUI_Initialize(&host, QStringLiteral("Host"));
+    factory->UseResourceModule(0);
+    EXPECT_EQ(host.bodies.size(), 1);
+}
+
+TEST(ComponentLibrary, ExportsTheContractAndNothingElse)
+{
+    static const QRegularExpression kContract(
+        QStringLiteral("^(qt_plugin_instance|qt_plugin_query_metadata(_v\\d+)?|"
+                       "schedules::(ComponentFactory|ParseMessage|EscapedXml|MessageTable|MessageFormOf|BuildMessage)("
+                       "\\[abi:\\w+\\])?\\(.*|"
+                       "schedules::(Sheet|CellStore|Axis|Message|ParameterList)::.*|"
+                       "(vtable|typeinfo|typeinfo name|non-virtual thunk to|guard variable) ?(for)? ?"
+                       "schedules::(Sheet|IToolUI|IMsgRouter|IComponentFactory|UserInterface)\\b.*)$"));
+    const QStringList names = ExportedNames();
+    EXPECT_GT(names.size(), 10);
+    for (const QString& name : names)
+        EXPECT_TRUE(kContract.match(name).hasMatch()) << name.toStdString();
+}
+
+} // namespace schedules

@@ -1,0 +1,45 @@
+#include "host/ConsoleUserInterface.h"
+
+#include <gtest/gtest.h>
+
+namespace schedules::host {
+
+TEST(ConsoleUserInterface, WithoutABoxNothingFailed)
+{
+    EXPECT_EQ(ConsoleUserInterface().Failure(), std::nullopt);
+}
+
+TEST(ConsoleUserInterface, TheFirstNumberedBoxIsTheFailure)
+{
+    ConsoleUserInterface user;
+    user.Show({.text = QStringLiteral("plain")});
+    user.Show({.text = QStringLiteral("Not\nloaded."), .number = 1064});
+    user.Show({.text = QStringLiteral("Not shown."), .number = 3040});
+    EXPECT_EQ(user.Failure(), QStringLiteral("Not loaded. (1064)"));
+}
+
+TEST(ConsoleUserInterface, APercentSignInATextIsNothingSpecial)
+{
+    ConsoleUserInterface user;
+    user.Show({.text = QStringLiteral("50 %2"), .number = 7});
+    EXPECT_EQ(user.Failure(), QStringLiteral("50 %2 (7)"));
+}
+
+TEST(ConsoleUserInterface, WithoutANumberedBoxTheFirstOneIsTheFailure)
+{
+    ConsoleUserInterface user;
+    user.Show({.text = QStringLiteral("first")});
+    user.Show({.text = QStringLiteral("second")});
+    EXPECT_EQ(user.Failure(), QStringLiteral("first"));
+}
+
+TEST(ConsoleUserInterface, QuestionsAreAnsweredWithNo)
+{
+    ConsoleUserInterface user;
+    EXPECT_EQ(user.Show({.style = kOkOnly | kExclamation}), Answer::Ok);
+    EXPECT_EQ(user.Show({.style = kYesNo | kQuestion}), Answer::No);
+    EXPECT_EQ(user.Show({.style = kYesNoCancel | kQuestion}), Answer::No);
+    EXPECT_EQ(user.AskSaveFileName({}), QString());
+}
+
+} // namespace schedules::host

@@ -1,0 +1,167 @@
+// The layers of the project: which folder may include which, and which folders may know what of the libraries.
+
+#include <QDirIterator>
+#include <QFile>
+#include <QHash>
+#include <QRegularExpression>
+#include <QStringList>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Include
+{
+    QString file;  ///< relative to the project
+    QString layer; ///< of the including file
+    QString header;
+};
+
+const QString kProject = QStringLiteral(SCHEDULES_SOURCE_DIR);
+
+/// What each layer may include beside itself.
+const QHash<QString, QStringList> kMayInclude{
+    {"framework", {}},
+    {"common", {}},
+    {"fileutil", {"common"}},
+    {"spread", {"common"}},
+    {"grid", {"common", "spread"}},
+    {"model", {"common", "fileutil"}},
+    {"controls", {"common", "spread"}},
+    {"tools", {"framework", "common"}},
+    {"tools/schedule", {"tools", "framework", "common", "spread", "grid", "controls"}},
+    {"tools/options", {"tools", "framework", "common", "fileutil", "model", "controls"}},
+    {"component", {"framework", "common", "fileutil", "tools", "tools/schedule", "tools/options"}},
+    {"host", {"framework", "model", "fileutil"}},
+};
+
+/// Headers outside of its layers that the host may include: the sheet, and what the public headers are made of.
+const QStringList kPublicHeaders{"spread/Sheet.h", "common/UserInterface.h"};
+
+QString LayerOf(const QString& path)
+{
+    const QStringList parts = path.split('/');
+    if (parts.front() != "tools" || parts.size() < 3)
+        return parts.front();
+    return "tools/" + parts.at(1);
+}
+
+QStringList SourcesBelow(const QString& folder)
+{
+    QStringList files;
+    QDirIterator found(kProject + '/' + folder, {"*.h", "*.cpp"}, QDir::Files, QDirIterator::Subdirectories);
+    while (found.hasNext())
+        files << QDir(kProject).relativeFilePath(found.next());
+    return files;
+}
+
+QString ContentOf(const QString& file)
+{
+    QFile source(kProject + '/' + file);
+    return source.open(QFile::ReadOnly) ? QString::fromUtf8(source.readAll()) : QString();
+}
+
+QStringList HeadersIn(const QString& content, const QString& pattern)
+{
+    QStringList headers;
+    auto matches = QRegularExpression(pattern, QRegularExpression::MultilineOption).globalMatch(content);
+    while (matches.hasNext())
+        headers << matches.next().captured(1);
+    return headers;
+}
+
+QList<Include> Includes(const QString& pattern)
+{
+    QList<Include> includes;
+    for (const QString& file : SourcesBelow("src") + SourcesBelow("host")) {
+        const QString layer = file.startsWith("host/") ? QStringLiteral("host") : LayerOf(file.mid(4));
+        for (const QString& header : HeadersIn(ContentOf(file), pattern))
+            includes.append({file, layer, header});
+    }
+    return includes;
+}
+
+QList<Include> OwnIncludes()
+{
+    return Includes(R"re(^\s*#include "([^"]+)")re");
+}
+
+QList<Include> LibraryIncludes()
+{
+    return Includes(R"re(^\s*#include <([^>]+)>)re");
+}
+
+bool Allowed(const Include& include)
+{
+    if (include.layer == "host" && (!include.header.contains('/') || kPublicHeaders.contains(include.header)))
+        return true;
+    const QString layer = LayerOf(include.header);
+    return layer == include.layer || kMayInclude.value(include.layer).contains(layer);
+}
+
+std::string Told(const Include& include)
+{
+    return (include.file + " includes " + include.header).toStdString();
+}
+
+} // namespace
+
+TEST(Layers, EachFolderIncludesOnlyWhatItMay)
+{
+    const auto includes = OwnIncludes();
+    ASSERT_GT(includes.size(), 50);
+    for (const Include& include : includes)
+        EXPECT_TRUE(Allowed(include)) << Told(include);
+}
+
+TEST(Layers, EveryFolderOfSourcesIsInTheTable)
+{
+    for (const QString& file : SourcesBelow("src"))
+        EXPECT_TRUE(kMayInclude.contains(LayerOf(file.mid(4)))) << file.toStdString();
+}
+
+TEST(Layers, OnlyTheWrapperIncludesTheXmlLibrary)
+{
+    for (const Include& include : LibraryIncludes()) {
+        if (include.header.startsWith("libxml/")) {
+            EXPECT_TRUE(include.file.startsWith("src/common/Xml")) << Told(include);
+        }
+    }
+}
+
+TEST(Layers, NothingBelowTheControlsKnowsAWidget)
+{
+    const QRegularExpression widgets(
+        "^(QtWidgets|QtPrintSupport|QWidget|QApplication|QAbstractScrollArea|QDialog|QMessageBox|QPrinter|QLabel)");
+    const QStringList withoutWidgets{"framework", "common", "fileutil", "spread", "grid", "model"};
+    for (const Include& include : LibraryIncludes()) {
+        if (withoutWidgets.contains(include.layer)) {
+            EXPECT_FALSE(widgets.match(include.header).hasMatch()) << Told(include);
+        }
+    }
+}
+
+TEST(Layers, SqlIsTheHostsAlone)
+{
+    const QRegularExpression sql("^(QtSql|QSql)");
+    for (const Include& include : LibraryIncludes()) {
+        if (include.layer != "host") {
+            EXPECT_FALSE(sql.match(include.header).hasMatch()) << Told(include);
+        }
+    }
+}
+
+TEST(Layers, NoFileUsesPrivateQtHeaders)
+{
+    for (const Include& include : LibraryIncludes())
+        EXPECT_FALSE(include.header.contains("/private/")) << Told(include);
+}
+
+TEST(Layers, EveryHeaderIsIncludedOnce)
+{
+    for (const QString& file : SourcesBelow("src") + SourcesBelow("host")) {
+        if (file.endsWith(".h")) {
+            EXPECT_TRUE(ContentOf(file).startsWith("#pragma once\n")) << file.toStdString();
+        }
+    }
+}
