@@ -128,9 +128,10 @@ int LearnedAdvances::AdvanceBeyondTable(char32_t before, char32_t character)
     Memo& memo = m_memos[(before * 31 + character) % kMemos];
     if (memo.key != key) {
         const auto [known, isNew] = m_others.try_emplace(key, 0);
+        int& advance = known->second; // stays where it is when learning adds others
         if (isNew)
-            known->second = Learn(before, character);
-        memo = {key, known->second};
+            advance = Learn(before, character);
+        memo = {key, advance};
     }
     return memo.advance;
 }
