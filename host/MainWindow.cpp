@@ -45,7 +45,6 @@ MainWindow::MainWindow(HostRouter& router, const ViewOptions& options)
     statusBar();
     connect(&m_router, &HostRouter::Crossed, this, &MainWindow::OnCrossed);
     resize(kPreferredSize.boundedTo(screen()->availableSize() * 9 / 10));
-    resizeDocks({m_messages}, {height() / 5}, Qt::Vertical);
 }
 
 MainWindow::~MainWindow() = default;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <utility>
 #include <vector>
 
@@ -157,10 +158,11 @@ private:
         const std::string_view name = ReadName();
         if (name.empty() || !ReadAttributes())
             return false;
+        const std::string_view written(name.data(), static_cast<std::size_t>(m_at - name.data()));
         const bool closesItself = Take("/");
         if (!Take(">") || m_at - start > kMaxTagLength)
             return false;
-        m_handler.StartElement({name, false, {m_attributes.data(), m_attributeCount}});
+        m_handler.StartElement({name, false, {m_attributes.data(), m_attributeCount}, written});
         if (closesItself)
             m_handler.EndElement();
         else
@@ -228,6 +230,8 @@ private:
 
 bool ReadPlainXml(const QByteArray& utf8, XmlHandler& handler)
 {
+    if (utf8.size() > std::numeric_limits<int>::max())
+        return false; // more than the full parser takes
     return PlainReader({utf8.constData(), static_cast<std::size_t>(utf8.size())}, handler).Run();
 }
 

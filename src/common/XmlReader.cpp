@@ -80,7 +80,7 @@ private:
                         int count, int, const xmlChar** attributes)
     {
         Of(context).Guarded([&](XmlHandler& handler) {
-            handler.StartElement({View(name), uri != nullptr, Of(context).Attributes(attributes, count)});
+            handler.StartElement({View(name), uri != nullptr, Of(context).Attributes(attributes, count), {}});
         });
     }
 

@@ -24,6 +24,10 @@ struct XmlStartTag
     bool inNamespace = false;
     std::span<const XmlAttribute> attributes;
 
+    /// The tag as it stands, from its name to its last attribute, when the document has it in one plain piece: tags
+    /// that are written alike say the same. Empty otherwise.
+    std::string_view written;
+
     /// Whether this is an element of that name in no namespace.
     bool Is(std::string_view wanted) const { return !inNamespace && name == wanted; }
 };

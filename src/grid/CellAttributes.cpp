@@ -104,16 +104,24 @@ const CellAttributes& CellAttributesReader::Read(const XmlStartTag& tag, CellKin
 {
     if (tag.attributes.empty())
         return m_plain;
+    const std::string_view key = KeyOf(tag, kind);
+    if (const auto known = m_known.find(key); known != m_known.end())
+        return known->second;
+    if (m_known.size() >= kMostRemembered)
+        m_known.clear();
+    return m_known.emplace(key, Understood(tag, kind)).first->second;
+}
+
+std::string_view CellAttributesReader::KeyOf(const XmlStartTag& tag, CellKind kind)
+{
+    if (!tag.written.empty())
+        return tag.written;
     m_key.assign(1, kind == CellKind::Data ? 'D' : 'H');
     for (const XmlAttribute& attribute : tag.attributes) {
         AppendField(m_key, attribute.inNamespace ? std::string_view() : attribute.name);
         AppendField(m_key, attribute.value);
     }
-    if (const auto known = m_known.find(m_key); known != m_known.end())
-        return known->second;
-    if (m_known.size() >= kMostRemembered)
-        m_known.clear();
-    return m_known.emplace(m_key, Understood(tag, kind)).first->second;
+    return m_key;
 }
 
 } // namespace schedules

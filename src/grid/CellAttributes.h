@@ -40,6 +40,9 @@ private:
         std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>{}(text); }
     };
 
+    /// What tells tags apart that say different things.
+    std::string_view KeyOf(const XmlStartTag& tag, CellKind kind);
+
     static constexpr std::size_t kMostRemembered = 4096;
 
     const CellAttributes m_plain;

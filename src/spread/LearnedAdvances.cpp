@@ -73,12 +73,12 @@ LearnedAdvances::LearnedAdvances(const QFontMetricsF& metrics, char32_t letter)
 {
 }
 
-int LearnedAdvances::Width(std::string_view utf8)
+std::int64_t LearnedAdvances::Width(std::string_view utf8)
 {
     const char* at = utf8.data();
     const char* const end = at + utf8.size();
     char32_t before = 0;
-    int width = 0;
+    std::int64_t width = 0;
     while (at != end) {
         width += QuickWidth(at, end, before);
         if (at == end)
@@ -93,13 +93,13 @@ int LearnedAdvances::Width(std::string_view utf8)
     return width;
 }
 
-int LearnedAdvances::QuickWidth(const char*& at, const char* end, char32_t& before) const
+std::int64_t LearnedAdvances::QuickWidth(const char*& at, const char* end, char32_t& before) const
 {
     if (before >= kTableSize)
         return 0;
     const int* row = m_table.data() + before * kTableSize;
     const char* next = at;
-    int width = 0;
+    std::int64_t width = 0;
     for (; next != end; ++next) {
         const auto character = static_cast<unsigned char>(*next);
         if (character >= kTableSize || row[character] <= kUnknown)

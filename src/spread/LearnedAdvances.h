@@ -22,11 +22,11 @@ public:
     LearnedAdvances(const QFontMetricsF& metrics, char32_t letter);
 
     /// The width of a text of this script; -1 for one that only the font can measure.
-    int Width(std::string_view utf8);
+    std::int64_t Width(std::string_view utf8);
 
     /// Adds up the characters at `at` for which there is a quick answer and moves on behind them. `before` is the
     /// character in front of them.
-    int QuickWidth(const char*& at, const char* end, char32_t& before) const;
+    std::int64_t QuickWidth(const char*& at, const char* end, char32_t& before) const;
 
 private:
     static constexpr char32_t kTableSize = 128;

@@ -45,14 +45,14 @@ int TextMeasure::Exact(std::string_view utf8, bool bold) const
     return static_cast<int>(std::ceil(FaceOf(bold).metrics.horizontalAdvance(text)));
 }
 
-int TextMeasure::Learned(std::string_view utf8, bool bold)
+std::int64_t TextMeasure::Learned(std::string_view utf8, bool bold)
 {
     // Texts of ASCII alone are most, and need no look at their script.
     Face& face = FaceOf(bold);
     const char* at = utf8.data();
     const char* const end = at + utf8.size();
     char32_t before = 0;
-    const int quick = face.latin.QuickWidth(at, end, before);
+    const std::int64_t quick = face.latin.QuickWidth(at, end, before);
     if (at == end)
         return quick;
     LearnedAdvances* advances = face.AdvancesFor(utf8);
@@ -68,7 +68,7 @@ void WidestText::Consider(std::string_view utf8, bool bold, TextMeasure& measure
 {
     if (utf8.empty())
         return;
-    const int learned = measure.Learned(utf8, bold);
+    const std::int64_t learned = measure.Learned(utf8, bold);
     if (learned >= 0 && learned <= m_learned)
         return;
     m_learned = std::max(m_learned, learned);

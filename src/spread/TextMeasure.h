@@ -27,7 +27,7 @@ public:
     int Exact(std::string_view utf8, bool bold) const;
 
     /// The learned width, in 64ths of a twip; -1 for a text that only the font can measure.
-    int Learned(std::string_view utf8, bool bold);
+    std::int64_t Learned(std::string_view utf8, bool bold);
 
     /// Height of a line of text, in twips.
     static int LineHeight(const QFont& font);
@@ -62,7 +62,7 @@ public:
     int Width() const { return m_exact; }
 
 private:
-    int m_learned = -1;
+    std::int64_t m_learned = -1;
     int m_exact = 0;
 };
 

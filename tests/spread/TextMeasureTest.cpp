@@ -177,7 +177,7 @@ TEST_P(TextMeasureTest, TheLearnedMeasureIsTheFontsAdvanceOrNone)
     for (int count = 0; count < 8000; ++count) {
         const QString text = texts.Next();
         const bool bold = count % 3 == 0;
-        const int learned = measure.Learned(text.toUtf8().toStdString(), bold);
+        const std::int64_t learned = measure.Learned(text.toUtf8().toStdString(), bold);
         if (learned >= 0) {
             EXPECT_EQ(learned, std::lround((bold ? heavy : regular).horizontalAdvance(text) * 64))
                 << text.toStdString();
@@ -237,11 +237,18 @@ TEST(TextMeasure, SignsBeforeTheFirstLetterOfAnotherScriptGoToTheFont)
     EXPECT_GE(measure.Learned("12.5 kg", false), 0);
 }
 
+TEST(TextMeasure, TextsOfMillionsOfCharactersAreAddedUp)
+{
+    TextMeasure measure(QGuiApplication::font());
+    const std::string text(20'000'000, 'm');
+    EXPECT_GT(measure.Learned(text, false), 20'000'000LL * 100 * 64);
+}
+
 TEST(TextMeasure, KerningCounts)
 {
     const QFont font(QStringLiteral("Liberation Sans"), 9);
     TextMeasure measure(font);
-    const int together = measure.Learned("AV", false);
+    const std::int64_t together = measure.Learned("AV", false);
     EXPECT_LT(together, measure.Learned("A", false) + measure.Learned("V", false));
 }
 
