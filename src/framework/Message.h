@@ -11,7 +11,13 @@
 namespace schedules {
 
 /// The number that a parameter carries for the type of its value.
-enum class ParameterType { Text = 2, Number = 3, Xml = 4, Flag = 8 };
+enum class ParameterType
+{
+    Text = 2,
+    Number = 3,
+    Xml = 4,
+    Flag = 8
+};
 
 struct Parameter
 {

@@ -2,6 +2,7 @@
 
 #include "common/Error.h"
 #include "grid/CSchedule.h"
+#include "spread/RepaintingOff.h"
 
 #include <algorithm>
 
@@ -16,18 +17,6 @@ constexpr std::uint32_t kButtonFace = 0x8000000F;
 
 constexpr Column kRowHeaders{0};
 constexpr Row kColumnHeaders{0};
-
-/// Keeps a sheet from being repainted for as long as it lives.
-class RepaintingOff
-{
-public:
-    explicit RepaintingOff(Sheet& sheet) : m_sheet(sheet) { m_sheet.SetRepainting(false); }
-    ~RepaintingOff() { m_sheet.SetRepainting(true); }
-    Q_DISABLE_COPY_MOVE(RepaintingOff)
-
-private:
-    Sheet& m_sheet;
-};
 
 } // namespace
 

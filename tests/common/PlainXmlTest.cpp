@@ -3,55 +3,16 @@
 
 #include "common/PlainXml.h"
 
+#include "common/XmlRecorder.h"
+
 #include <gtest/gtest.h>
 #include <random>
 #include <string>
 
-namespace schedules {
+using namespace schedules;
+using namespace schedules::testing;
 
 namespace {
-
-/// Writes down what it is told; adjacent pieces of text are one.
-class Recorder : public XmlHandler
-{
-public:
-    void StartElement(const XmlStartTag& tag) override
-    {
-        Write("<" + std::string(tag.name) + (tag.inNamespace ? "!" : ""));
-        for (const XmlAttribute& attribute : tag.attributes)
-            told += " " + std::string(attribute.name) + "=" + std::string(attribute.value);
-    }
-
-    void EndElement() override { Write(">"); }
-
-    void Text(std::string_view text) override
-    {
-        told += (m_inText ? "" : "|") + std::string(text);
-        m_inText = true;
-    }
-
-    void OtherNode() override { Write("?"); }
-
-    std::string told;
-
-private:
-    void Write(const std::string& text)
-    {
-        told += text;
-        m_inText = false;
-    }
-
-    bool m_inText = false;
-};
-
-using Reader = bool (*)(const QByteArray&, XmlHandler&);
-
-/// What a reader tells of a document; "refused" when it does not read it.
-std::string Told(Reader read, const QByteArray& document)
-{
-    Recorder recorder;
-    return read(document, recorder) ? recorder.told : "refused";
-}
 
 /// Documents that are mostly right, made of the pieces that matter.
 class RandomDocuments
@@ -107,7 +68,7 @@ private:
     std::mt19937 m_random{20};
 };
 
-class NotPlain : public testing::TestWithParam<const char*>
+class NotPlain : public ::testing::TestWithParam<const char*>
 {
 };
 
@@ -119,41 +80,39 @@ TEST(PlainXml, TellsWhatTheFullParserTells)
     int plain = 0;
     for (int count = 0; count < 20'000; ++count) {
         const QByteArray document = documents.Next();
-        const std::string told = Told(ReadPlainXml, document);
+        const std::string told = ToldBy(ReadPlainXml, document);
         if (told == "refused")
             continue;
         ++plain;
-        ASSERT_EQ(told, Told(ReadXml, document)) << document.toStdString();
+        ASSERT_EQ(told, ToldBy(ReadXml, document)) << document.toStdString();
     }
     EXPECT_GT(plain, 10'000);
 }
 
 TEST(PlainXml, ReadsElementsAttributesAndText)
 {
-    EXPECT_EQ(Told(ReadPlainXml, "<?xml version=\"1.0\"?>\n<a x='1' y=\"2\"><b/>t &lt;&amp; u<c>\xD0\x9D</c ></a>\n"),
+    EXPECT_EQ(ToldBy(ReadPlainXml, "<?xml version=\"1.0\"?>\n<a x='1' y=\"2\"><b/>t &lt;&amp; u<c>\xD0\x9D</c ></a>\n"),
               "<a x=1 y=2<b>|t <& u<c|\xD0\x9D>>");
 }
 
 TEST_P(NotPlain, IsLeftToTheFullParser)
 {
-    EXPECT_EQ(Told(ReadPlainXml, GetParam()), "refused");
+    EXPECT_EQ(ToldBy(ReadPlainXml, GetParam()), "refused");
 }
 
 INSTANTIATE_TEST_SUITE_P(PlainXml, NotPlain,
-                         testing::Values("", " ", "text", "<a>", "<a></b>", "<a></ab>", "<a/><b/>", "<a/>text",
-                                         "<a><!-- --></a>", "<a><![CDATA[x]]></a>", "<a><?p?></a>", "<!DOCTYPE a><a/>",
-                                         "<p:a/>", "<a xmlns='b'/>", "<a p:x='1'/>", "<a x='1' x='2'/>",
-                                         "<a x='&lt;'/>", "<a x='<'/>", "<a x=\"1'/>", "<a x=1/>", "<a x/>",
-                                         "<a x='1'y='2'/>", "<a>&#65;</a>", "<a>&b;</a>", "<a>&</a>", "<a>]]></a>",
-                                         "<a>\r</a>", "<a>\x01</a>", "<a x='\t'/>", "<a>\xEF\xBF\xBF</a>",
-                                         "<a>\xEF\xBF\xBE</a>", "<\xC3\xA4/>", "<1/>", "< a/>", "<a / >",
-                                         "<?xml version=\"1.1\"?><a/>", " <?xml version=\"1.0\"?><a/>"));
+                         ::testing::Values("", " ", "text", "<a>", "<a></b>", "<a></ab>", "<a/><b/>", "<a/>text",
+                                           "<a><!-- --></a>", "<a><![CDATA[x]]></a>", "<a><?p?></a>",
+                                           "<!DOCTYPE a><a/>", "<p:a/>", "<a xmlns='b'/>", "<a p:x='1'/>",
+                                           "<a x='1' x='2'/>", "<a x='&lt;'/>", "<a x='<'/>", "<a x=\"1'/>", "<a x=1/>",
+                                           "<a x/>", "<a x='1'y='2'/>", "<a>&#65;</a>", "<a>&b;</a>", "<a>&</a>",
+                                           "<a>]]></a>", "<a>\r</a>", "<a>\x01</a>", "<a x='\t'/>",
+                                           "<a>\xEF\xBF\xBF</a>", "<a>\xEF\xBF\xBE</a>", "<\xC3\xA4/>", "<1/>", "< a/>",
+                                           "<a / >", "<?xml version=\"1.1\"?><a/>", " <?xml version=\"1.0\"?><a/>"));
 
 TEST(PlainXml, LeavesDeepNestingAndLongTagsToTheFullParser)
 {
-    EXPECT_EQ(Told(ReadPlainXml, QByteArray("<a>").repeated(300) + QByteArray("</a>").repeated(300)), "refused");
-    EXPECT_EQ(Told(ReadPlainXml, "<a x='" + QByteArray(20'000, 'v') + "'/>"), "refused");
-    EXPECT_EQ(Told(ReadPlainXml, "<" + QByteArray(60'000, 'n') + "/>"), "refused");
+    EXPECT_EQ(ToldBy(ReadPlainXml, QByteArray("<a>").repeated(300) + QByteArray("</a>").repeated(300)), "refused");
+    EXPECT_EQ(ToldBy(ReadPlainXml, "<a x='" + QByteArray(20'000, 'v') + "'/>"), "refused");
+    EXPECT_EQ(ToldBy(ReadPlainXml, "<" + QByteArray(60'000, 'n') + "/>"), "refused");
 }
-
-} // namespace schedules

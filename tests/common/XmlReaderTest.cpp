@@ -1,5 +1,6 @@
 #include "common/XmlReader.h"
 
+#include "common/XmlRecorder.h"
 #include "support/BadXml.h"
 
 #include <QElapsedTimer>
@@ -12,45 +13,9 @@ using namespace schedules::testing;
 
 namespace {
 
-/// Writes down what it is told: "<name attribute=value" in "{}" when in a namespace, "|text", "*" and ">".
-class Recorder : public XmlHandler
-{
-public:
-    void StartElement(const XmlStartTag& tag) override
-    {
-        Write("<" + std::string(tag.name) + (tag.inNamespace ? "{}" : ""));
-        for (const XmlAttribute& attribute : tag.attributes)
-            told += " " + std::string(attribute.name) + (attribute.inNamespace ? "{}" : "") + "=" +
-                    std::string(attribute.value);
-    }
-
-    void EndElement() override { Write(">"); }
-
-    void Text(std::string_view text) override
-    {
-        told += (m_inText ? "" : "|") + std::string(text);
-        m_inText = true;
-    }
-
-    void OtherNode() override { Write("*"); }
-
-    std::string told;
-
-private:
-    void Write(const std::string& text)
-    {
-        told += text;
-        m_inText = false;
-    }
-
-    bool m_inText = false;
-};
-
-/// What is told of a document; "refused" when it is not read.
 std::string Told(const QByteArray& document)
 {
-    Recorder recorder;
-    return ReadXml(document, recorder) ? recorder.told : "refused";
+    return ToldBy(ReadXml, document);
 }
 
 struct XmlReaderBad : ::testing::TestWithParam<BadXml>

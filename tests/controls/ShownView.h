@@ -54,7 +54,7 @@ struct ShownView
         view.show();
         QApplication::setActiveWindow(&view);
         view.setFocus();
-        QApplication::processEvents();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&view));
     }
 
     QImage Grabbed() { return view.viewport()->grab().toImage(); }

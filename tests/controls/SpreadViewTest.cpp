@@ -323,9 +323,14 @@ TEST(SpreadView, OneChangedCellRepaintsItsRectangleOnly)
         QRect painted;
     } watch;
     shown.view.viewport()->installEventFilter(&watch);
-    shown.sheet->SetText(At(2, 2), QStringLiteral("new"));
-    QApplication::processEvents();
-    EXPECT_EQ(watch.painted, shown.view.SeenRect(At(2, 2)));
+    const auto paintsTheCellAlone = [&] {
+        watch.painted = {};
+        shown.sheet->SetText(At(2, 2), QStringLiteral("new"));
+        QApplication::processEvents();
+        return watch.painted == shown.view.SeenRect(At(2, 2));
+    };
+    // A window manager may have the new window painted once more.
+    EXPECT_TRUE(QTest::qWaitFor(paintsTheCellAlone));
 }
 
 TEST(SpreadView, ScrollBarsGoByPixelsStepsAndPages)

@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
-
 #include <QApplication>
+
+#include <gtest/gtest.h>
 
 /// Tests run on real widgets, so all of them get an application; the offscreen platform unless another one is named.
 int main(int argc, char** argv)

@@ -5,7 +5,7 @@
 #include "common/modResource.h"
 #include "controls/DesktopUserInterface.h"
 #include "controls/SpreadView.h"
-#include "tools/schedule/RepaintingOff.h"
+#include "spread/RepaintingOff.h"
 #include "tools/schedule/ScheduleToolbar.h"
 #include "tools/schedule/ScheduleTools.h"
 
