@@ -41,6 +41,7 @@ private:
     {
         if (const auto failure = m_user.Failure())
             throw HostError(*failure);
+        m_session.RequireCompleteMessages();
     }
 
     ConsoleUserInterface m_user;
@@ -60,11 +61,15 @@ void Print(const QByteArray& text)
 int RunWindow(const CommandLine& commandLine)
 {
     Session session(commandLine);
+    if (!commandLine.file.isEmpty())
+        ReadXmlFile(commandLine.file); // what cannot be read is told before there is a window
     MainWindow window(session.Router(), commandLine.view);
     window.show();
     const QString sample = QDir(DataFolder(QStringLiteral("samples"))).filePath(QStringLiteral("pumps.xml"));
     window.Open(commandLine.file.isEmpty() ? sample : commandLine.file);
-    return QApplication::exec();
+    const int result = QApplication::exec();
+    session.RequireCompleteMessages();
+    return result;
 }
 
 int RunDump(const CommandLine& commandLine)

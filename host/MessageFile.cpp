@@ -12,8 +12,15 @@ MessageFile::MessageFile(const QString& fileName) : m_file(fileName)
 
 void MessageFile::Append(const Crossing& crossing)
 {
-    m_file.write(LogLine(crossing).toUtf8() + '\n');
-    m_file.flush();
+    const QByteArray line = LogLine(crossing).toUtf8() + '\n';
+    if (m_file.write(line) != line.size() || !m_file.flush())
+        m_failure = m_file.errorString();
+}
+
+void MessageFile::RequireComplete() const
+{
+    if (m_failure)
+        throw HostError(QStringLiteral("cannot write %1: %2").arg(m_file.fileName(), *m_failure));
 }
 
 } // namespace schedules::host

@@ -12,4 +12,10 @@ Session::Session(const CommandLine& commandLine) : m_language(commandLine.langua
                      [this](const Crossing& crossing) { m_messageFile->Append(crossing); });
 }
 
+void Session::RequireCompleteMessages() const
+{
+    if (m_messageFile)
+        m_messageFile->RequireComplete();
+}
+
 } // namespace schedules::host

@@ -19,6 +19,9 @@ public:
 
     HostRouter& Router() { return m_router; }
 
+    /// Throws `HostError` when a message is missing in the message file.
+    void RequireCompleteMessages() const;
+
 private:
     LanguageModule m_language;
     std::optional<MessageFile> m_messageFile;

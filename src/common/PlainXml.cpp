@@ -12,6 +12,9 @@ namespace {
 
 constexpr std::size_t kMaxDepth = 200;
 constexpr std::size_t kMaxAttributes = 16;
+
+/// The full parser limits names and how much it remembers of them; documents that come near its limits are its own.
+constexpr std::size_t kMaxNameLength = 64;
 constexpr std::ptrdiff_t kMaxTagLength = 16384;
 
 enum CharacterClass : unsigned char
@@ -93,7 +96,13 @@ private:
         return {start, static_cast<std::size_t>(m_at - start)};
     }
 
-    std::string_view ReadName() { return m_at != m_end && Is(*m_at, kNameStart) ? Skip(kName) : std::string_view(); }
+    /// Empty when there is none, or one too long.
+    std::string_view ReadName()
+    {
+        const bool starts = m_at != m_end && Is(*m_at, kNameStart);
+        const std::string_view name = starts ? Skip(kName) : std::string_view();
+        return name.size() <= kMaxNameLength ? name : std::string_view();
+    }
 
     bool ReadProlog()
     {
@@ -185,7 +194,8 @@ private:
     bool ReadAttribute()
     {
         XmlAttribute attribute{ReadName()};
-        if (m_attributeCount == kMaxAttributes || attribute.name == "xmlns" || !Take("=") || m_at == m_end)
+        if (attribute.name.empty() || m_attributeCount == kMaxAttributes || attribute.name == "xmlns" || !Take("=") ||
+            m_at == m_end)
             return false;
         const char quote = *m_at++;
         if (quote != '"' && quote != '\'')

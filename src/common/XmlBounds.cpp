@@ -38,7 +38,7 @@ std::size_t LengthWithinBounds(std::string_view tag)
 {
     int attributes = 0;
     char quote = 0;
-    for (std::size_t at = 1; at < tag.size() && at <= kMaxTagLength; ++at) {
+    for (std::size_t at = 1; at < tag.size() && at < kMaxTagLength; ++at) {
         const char character = tag[at];
         if (quote != 0 ? character == quote : character == '"' || character == '\'')
             quote = quote != 0 ? '\0' : character;

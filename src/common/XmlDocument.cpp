@@ -163,7 +163,7 @@ std::optional<QString> DecodedUnicode(const QByteArray& bytes)
     const auto encoding = QStringConverter::encodingForData(bytes, u'<');
     if (!encoding)
         return std::nullopt;
-    QStringDecoder decoder(*encoding);
+    QStringDecoder decoder(*encoding, QStringConverter::Flag::Stateless); // else a cut-off end goes unnoticed
     const QString text = decoder(bytes);
     return decoder.hasError() ? QString() : text;
 }

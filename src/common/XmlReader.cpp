@@ -17,6 +17,9 @@ namespace {
 
 constexpr int kFieldsPerAttribute = 5;
 
+/// The parser searches the namespaces in scope for every prefix; each takes two places of its stack.
+constexpr int kMaxNamespacePlaces = 2 * 4096;
+
 std::string_view View(const xmlChar* text)
 {
     return reinterpret_cast<const char*>(text);
@@ -79,6 +82,8 @@ private:
     static void OnStart(void* context, const xmlChar* name, const xmlChar*, const xmlChar* uri, int, const xmlChar**,
                         int count, int, const xmlChar** attributes)
     {
+        if (Of(context).m_parser->nsNr > kMaxNamespacePlaces)
+            return Of(context).Refuse();
         Of(context).Guarded([&](XmlHandler& handler) {
             handler.StartElement({View(name), uri != nullptr, Of(context).Attributes(attributes, count), {}});
         });

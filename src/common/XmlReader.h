@@ -49,7 +49,8 @@ public:
 };
 
 /// Reads a document of UTF-8 text in one pass. False when it is not well-formed, breaks the namespace rules, has a
-/// document type declaration or exceeds the bounds: elements nested 256 deep, 4,096 attributes or 1 MiB in one tag.
+/// document type declaration or exceeds the bounds: elements nested more than 256 deep below the root,
+/// more than 4,096 namespaces in scope, 4,096 attributes or 1 MiB in one tag.
 /// What the handler was told before is void then. Nothing outside of the text is ever read.
 bool ReadXml(const QByteArray& utf8, XmlHandler& handler);
 

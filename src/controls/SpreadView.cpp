@@ -47,7 +47,7 @@ void SpreadView::SetSheet(Sheet* sheet)
         m_sheet->SetFont(font());
         ConnectSheet();
     }
-    Relayout();
+    LayOut();
 }
 
 void SpreadView::ConnectSheet()
@@ -114,6 +114,11 @@ void SpreadView::Relayout()
 {
     if (m_sheet && !m_sheet->Repainting())
         return;
+    LayOut();
+}
+
+void SpreadView::LayOut()
+{
     UpdateScrollBars();
     viewport()->update();
     TellTableChanged(*this);

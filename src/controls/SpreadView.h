@@ -98,6 +98,7 @@ private:
     void ConnectSheet();
     void FollowScreen();
     void Relayout();
+    void LayOut();
     void UpdateScrollBars();
     void OnCellChanged(Cell cell);
     void OnActiveCellChanged();

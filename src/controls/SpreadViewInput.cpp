@@ -177,9 +177,9 @@ void SpreadView::Click(const SpreadDrag& drag)
         if (drag.movedActiveCell)
             Q_EMIT ActiveCellMoved(cell);
         Q_EMIT CellClicked(cell);
-    } else if (!drag.ByRows())
+    } else if (drag.ByColumns() && !drag.ByRows())
         Q_EMIT HeaderClicked(cell.column);
-    else if (!drag.ByColumns())
+    else if (drag.ByRows() && !drag.ByColumns())
         Q_EMIT RowHeaderClicked(cell.row);
 }
 

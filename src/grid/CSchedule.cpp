@@ -39,7 +39,10 @@ public:
     {
         m_userInterface.SetPointer(Pointer::Hourglass);
     }
-    ~BusyPointer() { m_userInterface.SetPointer(Pointer::Default); }
+    ~BusyPointer()
+    {
+        IgnoringErrors([this] { m_userInterface.SetPointer(Pointer::Default); });
+    }
     Q_DISABLE_COPY_MOVE(BusyPointer)
 
 private:

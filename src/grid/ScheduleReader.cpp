@@ -45,7 +45,7 @@ void ScheduleReader::ReadCell(Open& element, Open& row, const XmlStartTag& tag)
         ReadHeader(row, attributes);
     if (!row.isRow)
         return;
-    if (tag.Is("TD") && attributes.style.userDefined)
+    if (tag.Is("TD") && attributes.style.userDefined && !std::exchange(row.isUserDefined, true))
         AttributesOf(row.row).userDefined = true;
     element.isCell = true;
     element.cellRow = row.row;
@@ -68,7 +68,7 @@ void ScheduleReader::ReadHeader(Open& row, const CellAttributes& attributes)
 
 RowAttributes& ScheduleReader::AttributesOf(int row)
 {
-    // Rows open in order but tables inside of cells interleave them, so the one wanted is near the end.
+    // Asked for twice a row at the most; only tables inside of cells make it another than the last one.
     const auto found = std::find_if(m_table.rows.rbegin(), m_table.rows.rend(),
                                     [row](const RowAttributes& known) { return known.row <= row; });
     if (found != m_table.rows.rend() && found->row == row)

@@ -32,15 +32,16 @@ private:
     {
         bool isTable = false;
         bool isRow = false;
-        bool isFirstRow = false; ///< the first `TR` of its parent, in a table or not
-        bool isCell = false;     ///< a child of a row
-        bool hasRow = false;     ///< a `TR` child has been seen
-        bool hasHeader = false;  ///< a `TH` child has been seen
-        bool inText = false;     ///< of a row: the text being read has been counted as a cell
-        int row = 0;             ///< of a row: its number
-        int cells = 0;           ///< of a row: how many cells it has so far
-        int cellRow = 0;         ///< of a cell: the number of its row
-        int cellSlot = 0;        ///< of a cell: its number in the row
+        bool isFirstRow = false;    ///< the first `TR` of its parent, in a table or not
+        bool isCell = false;        ///< a child of a row
+        bool hasRow = false;        ///< a `TR` child has been seen
+        bool hasHeader = false;     ///< a `TH` child has been seen
+        bool isUserDefined = false; ///< of a row: a user-defined cell has been seen
+        bool inText = false;        ///< of a row: the text being read has been counted as a cell
+        int row = 0;                ///< of a row: its number
+        int cells = 0;              ///< of a row: how many cells it has so far
+        int cellRow = 0;            ///< of a cell: the number of its row
+        int cellSlot = 0;           ///< of a cell: its number in the row
     };
 
     /// The first text of a cell, while the cell is being read.

@@ -54,6 +54,8 @@ const CellStore::StoredCell* CellStore::Find(int line, int slot) const
 
 CellStore::StoredCell& CellStore::Slot(int line, int slot)
 {
+    if (slot < 0 || slot == std::numeric_limits<int>::max())
+        ThrowOverflow();
     AddLine(line);
     Line& found = m_lines[line];
     const auto wanted = static_cast<std::uint32_t>(slot);
@@ -147,15 +149,9 @@ int CellStore::SlotCount(int line) const
 CellStore CellStore::Transposed() const
 {
     CellStore turned;
-    int slots = 0;
-    for (int line = 0; line < LineCount(); ++line)
-        slots = std::max(slots, SlotCount(line));
-    for (int slot = 0; slot < slots; ++slot) {
-        turned.AddLine(slot);
-        for (int line = 0; line < LineCount(); ++line) {
-            if (Holds(line, slot))
-                turned.Place(slot, line, Text(line, slot), Style(line, slot));
-        }
+    for (int line = 0; line < LineCount(); ++line) {
+        ForEachIn(line,
+                  [&](int slot, std::string_view text, CellStyle style) { turned.Place(slot, line, text, style); });
     }
     return turned;
 }

@@ -202,13 +202,15 @@ void Sheet::SetRowOrder(std::vector<int> rows)
 void Sheet::SetFrozenColumns(int count)
 {
     m_frozenColumns = std::max(count, 0);
-    Q_EMIT FrozenChanged();
+    if (m_repainting)
+        Q_EMIT FrozenChanged();
 }
 
 void Sheet::SetFrozenRows(int count)
 {
     m_frozenRows = std::max(count, 0);
-    Q_EMIT FrozenChanged();
+    if (m_repainting)
+        Q_EMIT FrozenChanged();
 }
 
 void Sheet::SetActiveCell(Cell cell)
@@ -216,7 +218,8 @@ void Sheet::SetActiveCell(Cell cell)
     if (cell == m_activeCell)
         return;
     m_activeCell = cell;
-    Q_EMIT ActiveCellChanged();
+    if (m_repainting)
+        Q_EMIT ActiveCellChanged();
 }
 
 void Sheet::Reset()

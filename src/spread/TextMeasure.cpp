@@ -9,6 +9,13 @@ namespace schedules {
 
 namespace {
 
+/// Characters that the font measures at once: its sum of advances, 32 bits with six of them fraction, must not
+/// overflow.
+constexpr qsizetype kMostAtOnce = 16384;
+
+/// Wider than any paper or screen; wider texts are as wide as this, so that sums of widths stay within bounds.
+constexpr double kWidest = 100'000'000;
+
 QFont MeasuringFont(const QFont& font, bool bold)
 {
     QFont sized(font);
@@ -42,7 +49,10 @@ TextMeasure::TextMeasure(const QFont& font)
 int TextMeasure::Exact(std::string_view utf8, bool bold) const
 {
     const QString text = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-    return static_cast<int>(std::ceil(FaceOf(bold).metrics.horizontalAdvance(text)));
+    double width = 0;
+    for (qsizetype from = 0; from < text.size(); from += kMostAtOnce)
+        width += FaceOf(bold).metrics.horizontalAdvance(text.mid(from, kMostAtOnce));
+    return static_cast<int>(std::min(std::ceil(width), kWidest));
 }
 
 std::int64_t TextMeasure::Learned(std::string_view utf8, bool bold)

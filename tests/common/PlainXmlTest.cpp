@@ -110,9 +110,9 @@ INSTANTIATE_TEST_SUITE_P(PlainXml, NotPlain,
                                            "<a>\xEF\xBF\xBF</a>", "<a>\xEF\xBF\xBE</a>", "<\xC3\xA4/>", "<1/>", "< a/>",
                                            "<a / >", "<?xml version=\"1.1\"?><a/>", " <?xml version=\"1.0\"?><a/>"));
 
-TEST(PlainXml, LeavesDeepNestingAndLongTagsToTheFullParser)
+TEST(PlainXml, LeavesDeepNestingLongTagsAndLongNamesToTheFullParser)
 {
     EXPECT_EQ(ToldBy(ReadPlainXml, QByteArray("<a>").repeated(300) + QByteArray("</a>").repeated(300)), "refused");
     EXPECT_EQ(ToldBy(ReadPlainXml, "<a x='" + QByteArray(20'000, 'v') + "'/>"), "refused");
-    EXPECT_EQ(ToldBy(ReadPlainXml, "<" + QByteArray(60'000, 'n') + "/>"), "refused");
+    EXPECT_EQ(ToldBy(ReadPlainXml, "<" + QByteArray(65, 'n') + "/>"), "refused");
 }

@@ -311,6 +311,8 @@ TEST(XmlDocument, BytesThatAreNotOfTheirEncodingAreRefused)
     EXPECT_EQ(FromBytes("<?xml version='1.0' encoding='UTF-16'?><a/>"), "refused");
     EXPECT_EQ(FromBytes("\xEF\xBB\xBF<a>\xE9</a>"), "refused");
     EXPECT_EQ(FromBytes(QByteArray("\xFF\xFE<\0a\0/\0>", 9)), "refused");
+    EXPECT_EQ(FromBytes(QByteArray("\xFF\xFE<\0a\0/\0>\0!", 11)), "refused");
+    EXPECT_EQ(FromBytes("\xEF\xBB\xBF<a/>\xC3"), "refused");
 }
 
 TEST(XmlDocument, IsReadFromAFile)

@@ -93,6 +93,22 @@ TEST(XmlReader, ReadsUpToTheBounds)
     EXPECT_NE(Told(WithTagOf(1 << 20).toUtf8()), "refused");
 }
 
+TEST(XmlReader, RefusesMoreNamespacesInScopeThanItsBound)
+{
+    QByteArray declarations;
+    for (int number = 0; number < 3000; ++number)
+        declarations += " xmlns:p" + QByteArray::number(number) + "='u'";
+    EXPECT_NE(Told("<a" + declarations + "/>"), "refused");
+    EXPECT_EQ(Told("<a" + declarations + "><b" + declarations + "/></a>"), "refused");
+}
+
+TEST(XmlReader, ReadsLargeDocumentsWhateverTheyHold)
+{
+    const QByteArray row =
+        "<TR><TH>P-101A</TH>" + QByteArray("<TD AllowEdit='-1'>12.5</TD>").repeated(1000) + "</TR>\n";
+    EXPECT_NE(Told("<TABLE><!-- large -->" + row.repeated(1000) + "</TABLE>"), "refused");
+}
+
 TEST(XmlReader, RefusesBytesThatAreNotUtf8)
 {
     EXPECT_EQ(Told("<a>\xE9</a>"), "refused");

@@ -299,6 +299,15 @@ TEST_F(CScheduleLayout, ShowingUnitsRepaintsOnce)
     EXPECT_TRUE(sheet.Repainting());
 }
 
+TEST_F(CScheduleLayout, AfterShowingUnitsNothingOfTheTableIsLeft)
+{
+    sheet.SetHidden(Row(2), true);
+    sheet.SetBackColor({{kAllColumns, Row(1)}, {kAllColumns, Row(1)}}, 255);
+    engine.SchedShowUnits();
+    EXPECT_FALSE(sheet.Hidden(Row(2)));
+    EXPECT_EQ(sheet.BackColor({Column(1), Row(1)}), std::nullopt);
+}
+
 TEST_F(CScheduleLayout, AfterShowingUnitsTheTableIsFilledInAgain)
 {
     Loaded("Tag | Flow \n P-1 | 12");

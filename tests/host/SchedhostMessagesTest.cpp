@@ -101,6 +101,21 @@ TEST_F(SchedhostMessages, AFailedLoadLeavesThemThere)
     EXPECT_GE(Read(QStringLiteral("messages")).count('\n'), 2);
 }
 
+TEST_F(SchedhostMessages, AFullDiskIsTold)
+{
+    const Outcome run = Schedhost({"dump", Table(), "--messages", "/dev/full"});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.out, "");
+    EXPECT_EQ(run.err, "cannot write /dev/full: No space left on device\n");
+}
+
+TEST_F(SchedhostMessages, AWindowOnAFileThatIsNotThereEndsTheProgram)
+{
+    const Outcome run = Schedhost({"absent.xml"});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_TRUE(run.err.endsWith("cannot read absent.xml: No such file or directory\n")) << run.err.constData();
+}
+
 TEST_F(SchedhostMessages, AFileThatCannotBeWrittenEndsTheProgram)
 {
     const Outcome run = Schedhost({"dump", Table(), "--messages", "absent/messages"});

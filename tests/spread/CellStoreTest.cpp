@@ -208,6 +208,29 @@ TEST(CellStore, OnlyAStoreWithoutLinesIsEmpty)
     EXPECT_FALSE(store.Empty());
 }
 
+TEST(CellStore, ASlotNumberThatPassesTheIntegerRangeIsAnOverflow)
+{
+    CellStore store;
+    store.Place(0, 0, "kept", {});
+    for (const int slot : {-1, std::numeric_limits<int>::max()})
+        EXPECT_THROW(store.Place(0, slot, "text", {}), Error);
+    EXPECT_EQ(store.Text(0, 0), "kept");
+}
+
+TEST(CellStore, ARaggedStoreIsTransposedAtTheCostOfItsCells)
+{
+    constexpr int kLong = 50'000;
+    CellStore store;
+    for (int slot = 0; slot < kLong; ++slot)
+        store.Place(0, slot, "x", {});
+    for (int line = 1; line < kLong; ++line)
+        store.Place(line, 0, "y", {});
+    const CellStore turned = store.Transposed();
+    EXPECT_EQ(turned.Text(0, kLong - 1), "y");
+    EXPECT_EQ(turned.Text(kLong - 1, 0), "x");
+    EXPECT_LT(turned.MemoryUse(), std::size_t{kLong} * 200);
+}
+
 TEST(CellStore, ALineNumberThatPassesTheIntegerRangeIsAnOverflow)
 {
     CellStore store;

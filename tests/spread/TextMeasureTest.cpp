@@ -243,6 +243,14 @@ TEST(TextMeasure, TextsOfMillionsOfCharactersAreAddedUp)
     EXPECT_GT(measure.Learned(text, false), 20'000'000LL * 100 * 64);
 }
 
+TEST(TextMeasure, TextsOfHundredsOfThousandsOfCharactersHaveTheirWidth)
+{
+    const TextMeasure measure(QGuiApplication::font());
+    const double one = measure.Exact(std::string(1000, 'm'), false) / 1000.0;
+    EXPECT_NEAR(measure.Exact(std::string(300'000, 'm'), false) / one, 300'000, 300);
+    EXPECT_EQ(measure.Exact(std::string(30'000'000, 'm'), false), 100'000'000) << "the widest there is";
+}
+
 TEST(TextMeasure, KerningCounts)
 {
     const QFont font(QStringLiteral("Liberation Sans"), 9);

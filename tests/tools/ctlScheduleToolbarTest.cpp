@@ -131,6 +131,21 @@ TEST_F(ScheduleToolbarTest, KnowsSeparatorsAndCheckButtons)
     EXPECT_FALSE(Tool("other")->isCheckable() || Tool("other")->isSeparator());
 }
 
+TEST_F(ScheduleToolbarTest, TakesManySeparatorsWithoutAKey)
+{
+    AddMenu("", 1);
+    AddMenu("", 1);
+    const auto actions = view.findChild<QToolBar*>(QStringLiteral("tbTasks"))->actions();
+    EXPECT_EQ(std::ranges::count_if(actions, &QAction::isSeparator), 2);
+}
+
+TEST_F(ScheduleToolbarTest, ToolsWithoutACommandCannotBeClicked)
+{
+    Start(kScheduleView, kSchedule);
+    EXPECT_FALSE(Tool("btnPrint")->isEnabled() || Tool("btnExport")->isEnabled());
+    EXPECT_TRUE(Tool("btnTranspose")->isEnabled() && Tool("btnCustomize")->isEnabled());
+}
+
 TEST_F(ScheduleToolbarTest, HidesAToolThatTheHostWantsHidden)
 {
     AddMenu("locate", 0, false);

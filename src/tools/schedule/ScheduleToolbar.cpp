@@ -49,7 +49,8 @@ bool ScheduleToolbar::AddHostTool(const ToolDescription& tool)
 
 QAction* ScheduleToolbar::NewTool(const ToolDescription& tool)
 {
-    if (Tool(tool.key))
+    // Tools without a key, such as separators, may be many.
+    if (!tool.key.isEmpty() && Tool(tool.key))
         return nullptr;
     auto* action = new QAction(tool.caption, this);
     action->setObjectName(tool.key);

@@ -63,6 +63,7 @@ void ctlSchedule::BuildControls()
     m_legend->setWordWrap(true);
     m_legend->hide();
     m_continue = Named<QPushButton>("cmdContinue", QStringLiteral("Continue"), this);
+    m_continue->setEnabled(false); // this version collects no tags yet
     m_continue->hide();
     m_cancel = Named<QPushButton>("cmdCancel", QStringLiteral("Cancel"), this);
     m_spread->SetSheet(m_sheet);

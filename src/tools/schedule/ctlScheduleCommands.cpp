@@ -15,7 +15,7 @@ namespace {
 constexpr auto kScheduleHelp = "20";
 constexpr auto kSelectorHelp = "23";
 
-/// The text is the component's own, so it is in English where the component has no translation.
+/// The wording is fixed, the same in every language.
 constexpr auto kSaveQuestion = "Save Tag data?";
 
 } // namespace

@@ -21,6 +21,9 @@ void ctlSchedule::InitializeControls()
     for (const auto& tool : ScheduleToolsOf(m_viewType, m_printsSelections)) {
         AddToolbarButton(QLatin1String(tool.key), tool.image, QLatin1String(tool.caption), LoadResString(tool.tooltip),
                          true);
+        // What this version has no command for cannot be clicked.
+        if (QAction* action = m_toolbar->Tool(QLatin1String(tool.key)))
+            action->setEnabled(CommandOf(QLatin1String(tool.key)) != nullptr);
     }
     m_toolbar->setAccessibleName(ComponentText(QT_TRANSLATE_NOOP("Schedules", "Toolbar")));
     ShowCustomMessage();
