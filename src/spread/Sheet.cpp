@@ -269,7 +269,8 @@ void Sheet::MeasureAll() const
         });
     }
     m_widest.clear();
-    std::ranges::transform(widest, std::back_inserter(m_widest), &schedules::WidestText::Width);
+    std::ranges::transform(widest, std::back_inserter(m_widest),
+                           [&](const schedules::WidestText& text) { return text.Width(measure); });
 }
 
 void Sheet::SetRepainting(bool on)

@@ -13,6 +13,9 @@ namespace {
 /// overflow.
 constexpr qsizetype kMostAtOnce = 16384;
 
+constexpr std::size_t kMostWholes = 1024;
+constexpr std::size_t kLongestWhole = 64;
+
 /// Wider than any paper or screen; wider texts are as wide as this, so that sums of widths stay within bounds.
 constexpr double kWidest = 100'000'000;
 
@@ -40,6 +43,17 @@ LearnedAdvances* TextMeasure::Face::AdvancesFor(std::string_view utf8)
     return &scripts.try_emplace(QChar::script(*letter), metrics, *letter).first->second;
 }
 
+std::int64_t TextMeasure::Face::WidthBeyondAscii(std::string_view utf8)
+{
+    if (const auto known = wholes.find(utf8); known != wholes.end())
+        return known->second;
+    LearnedAdvances* const advances = AdvancesFor(utf8);
+    const std::int64_t width = advances ? advances->Width(utf8) : -1;
+    if (wholes.size() < kMostWholes && utf8.size() <= kLongestWhole)
+        wholes.emplace(utf8, width);
+    return width;
+}
+
 TextMeasure::TextMeasure(const QFont& font)
     : m_regular(std::make_unique<Face>(MeasuringFont(font, font.bold()))),
       m_bold(std::make_unique<Face>(MeasuringFont(font, true)))
@@ -65,8 +79,7 @@ std::int64_t TextMeasure::Learned(std::string_view utf8, bool bold)
     const std::int64_t quick = face.latin.QuickWidth(at, end, before);
     if (at == end)
         return quick;
-    LearnedAdvances* advances = face.AdvancesFor(utf8);
-    return advances ? advances->Width(utf8) : -1;
+    return face.WidthBeyondAscii(utf8);
 }
 
 int TextMeasure::LineHeight(const QFont& font)
@@ -79,10 +92,18 @@ void WidestText::Consider(std::string_view utf8, bool bold, TextMeasure& measure
     if (utf8.empty())
         return;
     const std::int64_t learned = measure.Learned(utf8, bold);
-    if (learned >= 0 && learned <= m_learned)
-        return;
-    m_learned = std::max(m_learned, learned);
-    m_exact = std::max(m_exact, measure.Exact(utf8, bold));
+    if (learned < 0) {
+        m_widestAsked = std::max(m_widestAsked, measure.Exact(utf8, bold));
+    } else if (learned > m_learned) {
+        m_learned = learned;
+        m_winner = utf8;
+        m_winnerIsBold = bold;
+    }
+}
+
+int WidestText::Width(const TextMeasure& measure) const
+{
+    return std::max(m_widestAsked, m_winner.empty() ? 0 : measure.Exact(m_winner, m_winnerIsBold));
 }
 
 } // namespace schedules

@@ -7,7 +7,9 @@
 
 #include <map>
 #include <memory>
+#include <string>
 #include <string_view>
+#include <unordered_map>
 
 namespace schedules {
 
@@ -41,9 +43,20 @@ private:
         /// What is known of the script of a text; nothing when it is of several.
         LearnedAdvances* AdvancesFor(std::string_view utf8);
 
+        std::int64_t WidthBeyondAscii(std::string_view utf8);
+
+        struct Hash
+        {
+            using is_transparent = void;
+            std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>{}(text); }
+        };
+
         QFontMetricsF metrics;
         LearnedAdvances latin;
         std::map<QChar::Script, LearnedAdvances> scripts;
+
+        /// Short texts beyond ASCII, names of makers and remarks, that come again and again.
+        std::unordered_map<std::string, std::int64_t, Hash, std::equal_to<>> wholes;
     };
 
     Face& FaceOf(bool bold) const { return bold ? *m_bold : *m_regular; }
@@ -52,18 +65,21 @@ private:
     std::unique_ptr<Face> m_bold;
 };
 
-/// Keeps the widest of many texts, by learned widths, and asks the font only about those that may be the widest.
+/// Keeps the widest of many texts, by learned widths, and asks the font itself about the one that has won. The texts
+/// must stay where they are as long as that.
 class WidestText
 {
 public:
     void Consider(std::string_view utf8, bool bold, TextMeasure& measure);
 
-    /// In twips.
-    int Width() const { return m_exact; }
+    /// In twips; 0 when all texts were empty.
+    int Width(const TextMeasure& measure) const;
 
 private:
     std::int64_t m_learned = -1;
-    int m_exact = 0;
+    std::string_view m_winner;
+    bool m_winnerIsBold = false;
+    int m_widestAsked = 0; ///< of the texts that only the font can measure
 };
 
 } // namespace schedules

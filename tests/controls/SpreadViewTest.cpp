@@ -3,6 +3,7 @@
 #include "controls/SheetColors.h"
 #include "controls/ShownView.h"
 
+#include <QScreen>
 #include <QSignalSpy>
 
 #include <gtest/gtest.h>
@@ -306,6 +307,23 @@ TEST(SpreadView, NothingIsRepaintedWhileTheSheetDoesNot)
     shown.sheet->SetRepainting(true);
     EXPECT_GT(shown.view.verticalScrollBar()->maximum(), 0);
     EXPECT_EQ(shown.Grabbed().pixelColor(150, 30), QColor(Qt::red));
+}
+
+TEST(SpreadView, FollowsAScreenThatChangesItsResolution)
+{
+    ShownView shown(NumberedSheet(3, 3));
+    struct Watch : QObject
+    {
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            paints += event->type() == QEvent::Paint ? 1 : 0;
+            return false;
+        }
+        int paints = 0;
+    } watch;
+    shown.view.viewport()->installEventFilter(&watch);
+    Q_EMIT shown.view.screen()->logicalDotsPerInchChanged(144);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return watch.paints > 0; }));
 }
 
 TEST(SpreadView, OneChangedCellRepaintsItsRectangleOnly)
