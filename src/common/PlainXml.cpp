@@ -56,7 +56,7 @@ class PlainReader
 {
 public:
     PlainReader(std::string_view text, XmlHandler& handler)
-        : m_at(text.data()), m_end(text.data() + text.size()), m_handler(handler)
+        : m_start(text.data()), m_at(text.data()), m_end(text.data() + text.size()), m_handler(handler)
     {
     }
 
@@ -78,6 +78,7 @@ private:
         return (kClasses[static_cast<unsigned char>(character)] & wanted) != 0;
     }
 
+    std::size_t Offset(const char* place) const { return static_cast<std::size_t>(place - m_start); }
     std::string_view Rest() const { return {m_at, static_cast<std::size_t>(m_end - m_at)}; }
 
     bool Take(std::string_view expected)
@@ -171,9 +172,9 @@ private:
         const bool closesItself = Take("/");
         if (!Take(">") || m_at - start > kMaxTagLength)
             return false;
-        m_handler.StartElement({name, false, {m_attributes.data(), m_attributeCount}, written});
+        m_handler.StartElement({name, false, {m_attributes.data(), m_attributeCount}, written, Offset(start)});
         if (closesItself)
-            m_handler.EndElement();
+            m_handler.EndElement(Offset(m_at));
         else
             m_open.push_back(name);
         return true;
@@ -224,10 +225,11 @@ private:
         if (!Take(">"))
             return false;
         m_open.pop_back();
-        m_handler.EndElement();
+        m_handler.EndElement(Offset(m_at));
         return true;
     }
 
+    const char* const m_start;
     const char* m_at;
     const char* const m_end;
     XmlHandler& m_handler;

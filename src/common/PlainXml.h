@@ -2,6 +2,9 @@
 
 #include "common/XmlReader.h"
 
+#include <concepts>
+#include <optional>
+
 namespace schedules {
 
 /// Reads a document that is written plainly: ASCII names without prefixes, elements, attributes and text with no other
@@ -12,5 +15,18 @@ namespace schedules {
 /// parser has the word. Whatever is read here, the full parser accepts and tells in the same calls, but for the pieces
 /// in which text comes. `utf8` must be valid UTF-8.
 bool ReadPlainXml(const QByteArray& utf8, XmlHandler& handler);
+
+/// What a handler makes of a document that is read in the faster way if it is written plainly; nothing when the full
+/// parser refuses it.
+template <std::derived_from<XmlHandler> Handler>
+std::optional<Handler> ReadEitherWay(const QByteArray& utf8)
+{
+    for (const auto readDocument : {ReadPlainXml, ReadXml}) {
+        Handler handler;
+        if (readDocument(utf8, handler))
+            return handler;
+    }
+    return std::nullopt;
+}
 
 } // namespace schedules

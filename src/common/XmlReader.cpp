@@ -37,7 +37,8 @@ class Reading
 {
 public:
     Reading(const QByteArray& utf8, XmlHandler& handler)
-        : m_handler(handler),
+        : m_text(utf8.constData(), static_cast<std::size_t>(utf8.size())),
+          m_handler(handler),
           m_parser(xmlCreateMemoryParserCtxt(utf8.constData(), static_cast<int>(utf8.size())), xmlFreeParserCtxt)
     {
         if (!m_parser)
@@ -65,7 +66,7 @@ private:
         sax.initialized = XML_SAX2_MAGIC;
         sax.startElementNs = OnStart;
         sax.endElementNs = [](void* context, const xmlChar*, const xmlChar*, const xmlChar*) {
-            Of(context).Guarded([](XmlHandler& handler) { handler.EndElement(); });
+            Of(context).Guarded([&](XmlHandler& handler) { handler.EndElement(Of(context).Offset()); });
         };
         sax.characters = OnText;
         sax.ignorableWhitespace = OnText;
@@ -85,7 +86,12 @@ private:
         if (Of(context).m_parser->nsNr > kMaxNamespacePlaces)
             return Of(context).Refuse();
         Of(context).Guarded([&](XmlHandler& handler) {
-            handler.StartElement({View(name), uri != nullptr, Of(context).Attributes(attributes, count), {}});
+            // The parser stands behind the attributes, which hold no "<".
+            handler.StartElement({View(name),
+                                  uri != nullptr,
+                                  Of(context).Attributes(attributes, count),
+                                  {},
+                                  Of(context).m_text.rfind('<', Of(context).Offset())});
         });
     }
 
@@ -95,6 +101,8 @@ private:
             handler.Text({reinterpret_cast<const char*>(text), static_cast<std::size_t>(length)});
         });
     }
+
+    std::size_t Offset() const { return static_cast<std::size_t>(xmlByteConsumed(m_parser.get())); }
 
     std::span<const XmlAttribute> Attributes(const xmlChar** fields, int count)
     {
@@ -128,6 +136,7 @@ private:
         xmlStopParser(m_parser.get());
     }
 
+    const std::string_view m_text;
     XmlHandler& m_handler;
     std::unique_ptr<xmlParserCtxt, decltype(&xmlFreeParserCtxt)> m_parser;
     std::vector<XmlAttribute> m_attributes;

@@ -28,6 +28,9 @@ struct XmlStartTag
     /// that are written alike say the same. Empty otherwise.
     std::string_view written;
 
+    /// Where the tag begins, in bytes from the start of the document.
+    std::size_t start = 0;
+
     /// Whether this is an element of that name in no namespace.
     bool Is(std::string_view wanted) const { return !inNamespace && name == wanted; }
 };
@@ -39,7 +42,8 @@ public:
     virtual ~XmlHandler() = default;
 
     virtual void StartElement(const XmlStartTag& tag) = 0;
-    virtual void EndElement() = 0;
+    /// `end` is where the element ends, in bytes from the start of the document.
+    virtual void EndElement(std::size_t end) = 0;
 
     /// Text between markup; a long run may come in pieces.
     virtual void Text(std::string_view text) = 0;

@@ -59,6 +59,16 @@ constexpr CellRange WholeColumn(Column column)
     return {{column, kAllRows}, {column, kAllRows}};
 }
 
+std::vector<int> GroupHeadingsOf(const std::vector<RowAttributes>& rows)
+{
+    std::vector<int> headings;
+    for (const RowAttributes& row : rows) {
+        if (row.bold && row.row > 0)
+            headings.push_back(row.row);
+    }
+    return headings;
+}
+
 } // namespace
 
 CSchedule::CSchedule(UserInterface& userInterface) : m_userInterface(userInterface) {}
@@ -74,7 +84,7 @@ bool CSchedule::SchedInitialize()
 {
     return Reported(m_userInterface, kSource.In(__func__), false, [&] {
         RequireSheet();
-        m_sched->Reset();
+        ResetSheet();
         m_sched->SetDefaultColumnWidth(m_defaultColWidth);
         m_sched->SetSize(0, 0);
         SetGridSize(kWorkingColumns, kWorkingRows);
@@ -126,8 +136,14 @@ void CSchedule::ResetFilledSheet()
 {
     if (!HasData())
         return;
-    m_sched->Reset();
+    ResetSheet();
     SetGridSize(kWorkingColumns, kWorkingRows);
+}
+
+void CSchedule::ResetSheet()
+{
+    m_sched->Reset();
+    m_groupHeadings.clear();
 }
 
 bool CSchedule::LoadXmlIntoSpreadSheet(const QString& xml)
@@ -152,6 +168,7 @@ void CSchedule::PlaceTable(ScheduleTable table)
     std::ranges::for_each(table.rows, [this](const RowAttributes& row) { ApplyRow(row); });
     for (int index = 0; index < std::ssize(table.headers); ++index)
         ApplyHeader(index, table.headers[index]);
+    m_groupHeadings = GroupHeadingsOf(table.rows);
 }
 
 void CSchedule::ApplyRow(const RowAttributes& row)

@@ -6,6 +6,8 @@
 
 #include <QString>
 
+#include <vector>
+
 namespace schedules {
 
 /// The schedule grid engine: fills a sheet from the XML of a schedule table, lays it out and prints it.
@@ -38,6 +40,11 @@ public:
 
     /// Lays the sheet out after a change of `ShowUnits`. Its contents are gone then; the caller fills it again.
     void SchedShowUnits();
+
+    /// The rows of the last loaded table that head a group: those whose first `TH` is bold, in order; the header row is
+    /// not one. They are numbers of `TR` elements, which are rows of the sheet as long as the data are not transposed.
+    /// None once the sheet has been reset; a load that fails changes nothing else about them.
+    const std::vector<int>& GroupHeadings() const { return m_groupHeadings; }
 
     /// "(ft)" for the unit "ft", nothing for no unit.
     static QString GetUnitLabel(const QString& unit);
@@ -83,6 +90,7 @@ private:
     void ApplyRow(const RowAttributes& row);
     void ApplyHeader(int index, const HeaderAttributes& header);
     void ResetFilledSheet();
+    void ResetSheet();
     void TickCheckBoxes(bool ticked);
 
     void SetGridSize(int columns, int rows);
@@ -109,6 +117,7 @@ private:
     QString m_templateName = QStringLiteral("(Default)");
     int m_templateID = 0;
     std::optional<QString> m_title;
+    std::vector<int> m_groupHeadings;
     int m_columnMargin = 0;
     int m_headerRowMinimumHeight = 0;
 };

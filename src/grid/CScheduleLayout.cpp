@@ -101,7 +101,7 @@ void CSchedule::SchedShowUnits()
     Reported(m_userInterface, kSource.In(__func__), [&] {
         RequireSheet();
         const RepaintingOff off(*m_sched);
-        m_sched->Reset();
+        ResetSheet();
         m_sched->SetSize(RowsActOnColumns() ? 500 : 100, m_sched->RowCount());
         SchedFormatData(1);
         StyleHeaderRow(VerticalAlignment::Top);

@@ -28,6 +28,12 @@ void ScheduleReader::StartElement(const XmlStartTag& tag)
     m_open.push_back(element);
 }
 
+std::optional<Sheet::TablePlace> ScheduleReader::OpenCell() const
+{
+    const Open& element = m_open.back();
+    return element.isCell ? std::optional(Sheet::TablePlace{element.cellRow, element.cellSlot}) : std::nullopt;
+}
+
 void ScheduleReader::OpenRow(Open& element, Open& parent)
 {
     element.isFirstRow = !std::exchange(parent.hasRow, true);
@@ -124,7 +130,7 @@ void ScheduleReader::AddEmptyCell(Open& row)
     m_table.cells.Place(row.row, row.cells++, {}, {});
 }
 
-void ScheduleReader::EndElement()
+void ScheduleReader::EndElement([[maybe_unused]] std::size_t end)
 {
     Open& element = m_open.back();
     if (element.isCell) {

@@ -3,7 +3,9 @@
 #include "common/XmlReader.h"
 #include "grid/CellAttributes.h"
 #include "grid/ScheduleTable.h"
+#include "spread/Sheet.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,13 +20,17 @@ class ScheduleReader : public XmlHandler
 {
 public:
     void StartElement(const XmlStartTag& tag) override;
-    void EndElement() override;
+    void EndElement(std::size_t end) override;
     void Text(std::string_view text) override;
     void OtherNode() override;
 
     bool SawRoot() const { return m_sawRoot; }
     int RowCount() const { return m_rowCount; }
     ScheduleTable Take();
+
+protected:
+    /// Which cell of the table the element that was opened last is; nothing when it is none.
+    std::optional<Sheet::TablePlace> OpenCell() const;
 
 private:
     /// An element that has been opened and not yet closed.

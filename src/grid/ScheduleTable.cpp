@@ -6,24 +6,10 @@
 
 namespace schedules {
 
-namespace {
-
-std::optional<ScheduleReader> Read(const QByteArray& utf8)
-{
-    for (const auto readDocument : {ReadPlainXml, ReadXml}) {
-        ScheduleReader reader;
-        if (readDocument(utf8, reader))
-            return reader;
-    }
-    return std::nullopt;
-}
-
-} // namespace
-
 ParsedTable ParseScheduleTable(const QString& xml)
 {
     const auto utf8 = XmlUtf8(xml);
-    auto reader = utf8 ? Read(*utf8) : std::nullopt;
+    auto reader = utf8 ? ReadEitherWay<ScheduleReader>(*utf8) : std::nullopt;
     if (!reader)
         return {TableFault::NotWellFormed, {}};
     if (!reader->SawRoot())

@@ -85,6 +85,7 @@ TEST(PlainXml, TellsWhatTheFullParserTells)
             continue;
         ++plain;
         ASSERT_EQ(told, ToldBy(ReadXml, document)) << document.toStdString();
+        ASSERT_EQ(ElementsBy(ReadPlainXml, document), ElementsBy(ReadXml, document)) << document.toStdString();
     }
     EXPECT_GT(plain, 10'000);
 }

@@ -117,12 +117,22 @@ TEST(XmlReader, RefusesBytesThatAreNotUtf8)
     EXPECT_EQ(Told(QByteArray("<\0a\0/\0>\0", 8)), "refused");
 }
 
+TEST(XmlReader, TellsWhereElementsStand)
+{
+    EXPECT_EQ(ElementsBy(ReadXml,
+                         "\xEF\xBB\xBF<?xml version='1.0'?>\n<a x='>'><!-- <b> --><b y = \"/>\"/>Ж<p:c xmlns:p='u' >"
+                         "<![CDATA[<d>]]></p:c ></a>"),
+              "<b y = \"/>\"/>\n"
+              "<p:c xmlns:p='u' ><![CDATA[<d>]]></p:c >\n"
+              "<a x='>'><!-- <b> --><b y = \"/>\"/>Ж<p:c xmlns:p='u' ><![CDATA[<d>]]></p:c ></a>\n");
+}
+
 TEST(XmlReader, AnExceptionOfTheHandlerComesOut)
 {
     struct Throwing : Recorder
     {
         void OtherNode() override { throw std::runtime_error("enough"); }
-        void EndElement() override { ++ended; }
+        void EndElement(std::size_t) override { ++ended; }
         int ended = 0;
     };
     Throwing handler;

@@ -3,6 +3,8 @@
 #include "common/XmlReader.h"
 
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace schedules::testing {
 
@@ -16,9 +18,15 @@ public:
         for (const XmlAttribute& attribute : tag.attributes)
             told += " " + std::string(attribute.name) + (attribute.inNamespace ? "{}" : "") + "=" +
                     std::string(attribute.value);
+        m_open.push_back(tag.start);
     }
 
-    void EndElement() override { Write(">"); }
+    void EndElement(std::size_t end) override
+    {
+        Write(">");
+        places.emplace_back(m_open.back(), end);
+        m_open.pop_back();
+    }
 
     void Text(std::string_view text) override
     {
@@ -29,6 +37,8 @@ public:
     void OtherNode() override { Write("*"); }
 
     std::string told;
+    std::vector<std::pair<std::size_t, std::size_t>>
+        places; ///< where elements begin and end, in the order of their ends
 
 private:
     void Write(const std::string& text)
@@ -38,6 +48,7 @@ private:
     }
 
     bool m_inText = false;
+    std::vector<std::size_t> m_open;
 };
 
 /// What a reader tells of a document; "refused" when it does not read it.
@@ -45,6 +56,19 @@ inline std::string ToldBy(bool (*read)(const QByteArray&, XmlHandler&), const QB
 {
     Recorder recorder;
     return read(document, recorder) ? recorder.told : "refused";
+}
+
+/// The elements as they stand in the document, in the order of their ends.
+inline std::string ElementsBy(bool (*read)(const QByteArray&, XmlHandler&), const QByteArray& document)
+{
+    Recorder recorder;
+    if (!read(document, recorder))
+        return "refused";
+    std::string elements;
+    for (const auto& [start, end] : recorder.places)
+        elements +=
+            document.mid(static_cast<qsizetype>(start), static_cast<qsizetype>(end - start)).toStdString() + "\n";
+    return elements;
 }
 
 } // namespace schedules::testing
