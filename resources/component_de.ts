@@ -21,6 +21,10 @@ the other component_*.ts files; English itself needs none.
         <translation>Symbolleiste</translation>
     </message>
     <message>
+        <source>More tools</source>
+        <translation>Weitere Werkzeuge</translation>
+    </message>
+    <message>
         <source>checked</source>
         <translation>aktiviert</translation>
     </message>
@@ -35,6 +39,42 @@ the other component_*.ts files; English itself needs none.
     <message>
         <source>Column headers</source>
         <translation>Spaltenköpfe</translation>
+    </message>
+    <message>
+        <source>Changed, not saved</source>
+        <translation>Geändert, nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>Sort Ascending</source>
+        <translation>Aufsteigend sortieren</translation>
+    </message>
+    <message>
+        <source>Sort Descending</source>
+        <translation>Absteigend sortieren</translation>
+    </message>
+    <message>
+        <source>Document Order</source>
+        <translation>Reihenfolge des Dokuments</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alle auswählen</translation>
+    </message>
+    <message>
+        <source>Select None</source>
+        <translation>Keine auswählen</translation>
+    </message>
+    <message>
+        <source>Invert Selection</source>
+        <translation>Auswahl umkehren</translation>
+    </message>
+    <message>
+        <source>Edit value</source>
+        <translation>Wert bearbeiten</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
     </message>
 </context>
 </TS>

@@ -21,6 +21,10 @@ the other component_*.ts files; English itself needs none.
         <translation>Barre d’outils</translation>
     </message>
     <message>
+        <source>More tools</source>
+        <translation>Autres outils</translation>
+    </message>
+    <message>
         <source>checked</source>
         <translation>coché</translation>
     </message>
@@ -35,6 +39,42 @@ the other component_*.ts files; English itself needs none.
     <message>
         <source>Column headers</source>
         <translation>En-têtes de colonne</translation>
+    </message>
+    <message>
+        <source>Changed, not saved</source>
+        <translation>Modifié, non enregistré</translation>
+    </message>
+    <message>
+        <source>Sort Ascending</source>
+        <translation>Trier par ordre croissant</translation>
+    </message>
+    <message>
+        <source>Sort Descending</source>
+        <translation>Trier par ordre décroissant</translation>
+    </message>
+    <message>
+        <source>Document Order</source>
+        <translation>Ordre du document</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Select None</source>
+        <translation>Ne rien sélectionner</translation>
+    </message>
+    <message>
+        <source>Invert Selection</source>
+        <translation>Inverser la sélection</translation>
+    </message>
+    <message>
+        <source>Edit value</source>
+        <translation>Modifier la valeur</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
     </message>
 </context>
 </TS>

@@ -55,9 +55,9 @@ double Contrast(const QColor& one, const QColor& other)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-QColor LegibleOn(const QColor& background, const QColor& preferred)
+QColor LegibleOn(const QColor& background, const QColor& preferred, double contrast)
 {
-    if (Contrast(background, preferred) >= kLegibleContrast)
+    if (Contrast(background, preferred) >= contrast)
         return preferred;
     const QColor black(Qt::black);
     const QColor white(Qt::white);

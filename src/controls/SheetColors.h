@@ -17,8 +17,11 @@ double Contrast(const QColor& one, const QColor& other);
 /// What text needs at least to be read with ease.
 inline constexpr double kLegibleContrast = 4.5;
 
-/// The preferred color if it is legible on the background, else black or white.
-QColor LegibleOn(const QColor& background, const QColor& preferred);
+/// What a mark needs to be seen.
+inline constexpr double kMarkContrast = 3;
+
+/// The preferred color if it has that contrast to the background, else black or white.
+QColor LegibleOn(const QColor& background, const QColor& preferred, double contrast = kLegibleContrast);
 
 /// `top` laid over `bottom`; a share of 0 leaves the bottom, 1 the top.
 QColor Blend(const QColor& bottom, const QColor& top, double share);

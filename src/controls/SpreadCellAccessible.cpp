@@ -1,5 +1,6 @@
 #include "controls/SpreadCellAccessible.h"
 
+#include "common/modResource.h"
 #include "controls/CellContent.h"
 #include "controls/SpreadViewAccessible.h"
 
@@ -17,8 +18,11 @@ bool SpreadCellAccessible::isValid() const
 
 void* SpreadCellAccessible::interface_cast(QAccessible::InterfaceType type)
 {
-    return type == QAccessible::TableCellInterface && !IsHeader() ? static_cast<QAccessibleTableCellInterface*>(this)
-                                                                  : nullptr;
+    if (type == QAccessible::TableCellInterface && !IsHeader())
+        return static_cast<QAccessibleTableCellInterface*>(this);
+    if (type == QAccessible::ActionInterface && !actionNames().isEmpty())
+        return static_cast<QAccessibleActionInterface*>(this);
+    return nullptr;
 }
 
 QAccessibleInterface* SpreadCellAccessible::parent() const
@@ -28,9 +32,13 @@ QAccessibleInterface* SpreadCellAccessible::parent() const
 
 QString SpreadCellAccessible::text(QAccessible::Text kind) const
 {
-    if (kind != QAccessible::Name || !isValid())
+    if (!isValid())
         return {};
     const CellContent content = ContentOf(TheSheet(), m_cell);
+    if (kind == QAccessible::Description && content.style.edited)
+        return ComponentText("Changed, not saved");
+    if (kind != QAccessible::Name)
+        return {};
     return content.IsCheckBox() ? TheSheet().Text({m_cell.column, Row(0)}) : content.text;
 }
 
@@ -61,10 +69,32 @@ QAccessible::State SpreadCellAccessible::state() const
     state.offscreen = m_view->SeenRect(m_cell).isEmpty();
     state.checkable = content.IsCheckBox();
     state.checked = content.Ticked();
+    state.editable = MayBeEdited();
+    state.readOnly = !state.editable;
     state.focusable = state.selectable = !IsHeader();
     state.selected = isSelected();
     state.focused = m_view->hasFocus() && m_cell == TheSheet().ActiveCell();
     return state;
+}
+
+bool SpreadCellAccessible::MayBeEdited() const
+{
+    return m_view->ShowsEditable() && !IsHeader() && TheSheet().Style(m_cell).allowEdit;
+}
+
+QStringList SpreadCellAccessible::actionNames() const
+{
+    if (!isValid() || IsHeader())
+        return {};
+    if (TheSheet().Style(m_cell).type == CellType::CheckBox)
+        return {toggleAction()};
+    return MayBeEdited() ? QStringList{pressAction()} : QStringList();
+}
+
+void SpreadCellAccessible::doAction(const QString& actionName)
+{
+    if (actionNames().contains(actionName))
+        m_view->Click(m_cell);
 }
 
 bool SpreadCellAccessible::isSelected() const

@@ -9,8 +9,11 @@ namespace schedules {
 
 class SpreadViewAccessible;
 
-/// A cell or a header of a spread view as assistive programs see it.
-class SpreadCellAccessible : public QAccessibleInterface, public QAccessibleTableCellInterface
+/// A cell or a header of a spread view as assistive programs see it. Check boxes and cells that may be edited have an
+/// action, which is a click.
+class SpreadCellAccessible : public QAccessibleInterface,
+                             public QAccessibleTableCellInterface,
+                             public QAccessibleActionInterface
 {
 public:
     SpreadCellAccessible(SpreadView* view, Cell cell) : m_view(view), m_cell(cell) {}
@@ -40,7 +43,12 @@ public:
     int rowExtent() const override { return 1; }
     QAccessibleInterface* table() const override { return parent(); }
 
+    QStringList actionNames() const override;
+    void doAction(const QString& actionName) override;
+    QStringList keyBindingsForAction(const QString&) const override { return {}; }
+
 private:
+    bool MayBeEdited() const;
     bool IsHeader() const { return m_cell.column.Value() == 0 || m_cell.row.Value() == 0; }
     const Sheet& TheSheet() const { return *m_view->TheSheet(); }
     SpreadViewAccessible& Table() const;

@@ -26,6 +26,16 @@ int PositionNear(const AxisLayout& axis, int from, int at)
     return axis.NearestTo(std::clamp(at, start, std::max(axis.Extent() - 1, start)));
 }
 
+std::vector<int> VisibleBetween(const Axis& axis, int one, int other)
+{
+    std::vector<int> positions;
+    const auto [first, last] = std::minmax(one, other);
+    for (int position = axis.VisibleFrom(first, 1); position >= 0 && position <= last;
+         position = axis.VisibleFrom(position + 1, 1))
+        positions.push_back(position);
+    return positions;
+}
+
 } // namespace
 
 std::optional<Place> SpreadDrag::CornerAt(QPoint point, const SpreadGeometry& geometry, const Sheet& sheet) const
@@ -37,6 +47,19 @@ std::optional<Place> SpreadDrag::CornerAt(QPoint point, const SpreadGeometry& ge
     const Place corner{ByRows() ? last.column : std::max(column, first.column),
                        ByColumns() ? last.row : std::max(row, first.row)};
     return HoldsData(sheet, corner) ? std::optional(corner) : std::nullopt;
+}
+
+std::vector<Cell> SpreadDrag::CellsTo(Place place, const Sheet& sheet) const
+{
+    std::vector<Cell> cells;
+    const std::vector<int> columns = VisibleBetween(sheet.Columns(), swept.column, place.column);
+    for (const int row : VisibleBetween(sheet.Rows(), swept.row, place.row)) {
+        for (const int column : columns) {
+            if (Place{column, row} != swept)
+                cells.push_back(CellOf(sheet, {column, row}));
+        }
+    }
+    return cells;
 }
 
 QPoint SpreadDrag::Overshoot(QPoint point, const SpreadGeometry& geometry) const

@@ -16,6 +16,7 @@ constexpr double kGridLineShare = 0.16;
 constexpr double kEdgeLineShare = 0.45;
 constexpr double kSelectedShare = 0.22;
 constexpr double kSelectedHeaderShare = 0.30;
+constexpr double kEditableShare = 0.07;
 
 QColor LineColor(const QPalette& palette, double share)
 {
@@ -38,13 +39,15 @@ Halves Halved(std::vector<Track> tracks, const AxisLayout& axis)
 } // namespace
 
 SpreadPainter::SpreadPainter(QPainter& painter, const Sheet& sheet, const SpreadGeometry& geometry, CellFaces& faces,
-                             const CellLook& look)
+                             const CellLook& look, const ShownMarks& marks)
     : m_painter(painter),
       m_sheet(sheet),
       m_geometry(geometry),
       m_look(look),
+      m_marks(marks),
       m_cells(painter, faces, look),
-      m_thin(1 / painter.device()->devicePixelRatioF())
+      m_thin(1 / painter.device()->devicePixelRatioF()),
+      m_triangles(painter, faces.Ascent(false), m_thin, look.direction)
 {
 }
 
@@ -53,6 +56,7 @@ void SpreadPainter::Paint(const std::optional<ShownSelection>& selection, const 
     m_selection = selection;
     for (const Pane& pane : Panes(exposed))
         PaintPane(pane);
+    DrawSortArrow();
     m_painter.setClipping(false);
     DrawEdges();
     if (m_selection)
@@ -82,14 +86,19 @@ void SpreadPainter::PaintPane(const Pane& pane)
 {
     if (pane.rect.isEmpty())
         return;
+    std::vector<ShownCell> edited;
     m_painter.setClipRect(pane.rect);
     for (const Track& row : pane.rows) {
         const std::vector<ShownCell> cells = CellsOf(row, pane);
         FillGrounds(cells);
         for (const ShownCell& cell : cells)
             m_cells.Paint(cell.content, cell.rect, cell.ground);
+        std::ranges::copy_if(cells, std::back_inserter(edited),
+                             [](const ShownCell& cell) { return cell.content.style.edited; });
     }
     m_cells.Finish();
+    for (const ShownCell& cell : edited)
+        DrawCorner(cell.rect, cell.ground);
     DrawLines(pane);
 }
 
@@ -105,10 +114,17 @@ std::vector<SpreadPainter::ShownCell> SpreadPainter::CellsOf(const Track& row, c
     return cells;
 }
 
-QColor SpreadPainter::GroundOf(Place place, const CellContent& content) const
+QColor SpreadPainter::OwnGroundOf(Place place, const CellContent& content) const
 {
     const bool isHeader = place.column == 0 || place.row == 0;
-    const QColor own = m_cells.GroundOf(content, m_look.palette.color(isHeader ? QPalette::Button : QPalette::Base));
+    const QColor plain = m_cells.GroundOf(content, m_look.palette.color(isHeader ? QPalette::Button : QPalette::Base));
+    const bool isTinted = m_marks.editable && content.style.allowEdit && !isHeader;
+    return isTinted ? Blend(plain, m_look.palette.color(QPalette::Highlight), kEditableShare) : plain;
+}
+
+QColor SpreadPainter::GroundOf(Place place, const CellContent& content) const
+{
+    const QColor own = OwnGroundOf(place, content);
     const double share = SelectedShareOf(place);
     return share > 0 ? Blend(own, m_look.palette.color(QPalette::Highlight), share) : own;
 }
@@ -133,6 +149,23 @@ void SpreadPainter::FillGrounds(const std::vector<ShownCell>& cells)
         m_painter.fillRect(run->rect.united(std::prev(end)->rect), run->ground);
         run = end;
     }
+}
+
+void SpreadPainter::DrawCorner(const QRectF& cell, const QColor& ground)
+{
+    m_triangles.PaintCorner(cell, LegibleOn(ground, m_look.palette.color(QPalette::Highlight), kMarkContrast));
+}
+
+void SpreadPainter::DrawSortArrow()
+{
+    if (!m_marks.sort || m_marks.sort->column > Column(m_sheet.ColumnCount()))
+        return;
+    const Cell header{m_marks.sort->column, Row(0)};
+    const Place place = PlaceOf(m_sheet, header);
+    const QColor ground = GroundOf(place, ContentOf(m_sheet, header));
+    m_painter.setClipRect(m_geometry.SeenRectOf(place));
+    m_triangles.PaintArrow(m_geometry.RectOf(place), m_marks.sort->order,
+                           LegibleOn(ground, m_look.palette.color(QPalette::Text)));
 }
 
 void SpreadPainter::DrawLines(const Pane& pane)
@@ -192,6 +225,9 @@ void SpreadPainter::DrawActiveFrame()
     };
     outline(0, width, frame);
     outline(width, m_thin, m_look.palette.color(QPalette::Base));
+    const CellContent content = ContentOf(m_sheet, CellOf(m_sheet, m_selection->active));
+    if (content.style.edited)
+        DrawCorner(whole.adjusted(width, width, -width, -width), GroundOf(m_selection->active, content));
     m_painter.setClipping(false);
 }
 

@@ -2,6 +2,7 @@
 
 #include "controls/CellPainter.h"
 #include "controls/SpreadGeometry.h"
+#include "controls/SpreadMarks.h"
 
 #include <optional>
 #include <vector>
@@ -16,13 +17,13 @@ struct ShownSelection
     bool focused = false;
 };
 
-/// Paints one frame of a sheet on screen: grounds, lines, contents, the selection. Only cells that are seen are looked
-/// at, and columns and rows once each.
+/// Paints one frame of a sheet on screen: grounds, lines, contents, marks, the selection. Only cells that are seen are
+/// looked at, and columns and rows once each.
 class SpreadPainter
 {
 public:
     SpreadPainter(QPainter& painter, const Sheet& sheet, const SpreadGeometry& geometry, CellFaces& faces,
-                  const CellLook& look);
+                  const CellLook& look, const ShownMarks& marks);
 
     /// Cells outside of what is exposed are left alone.
     void Paint(const std::optional<ShownSelection>& selection, const QRect& exposed);
@@ -45,9 +46,12 @@ private:
     std::vector<Pane> Panes(const QRect& exposed) const;
     void PaintPane(const Pane& pane);
     std::vector<ShownCell> CellsOf(const Track& row, const Pane& pane) const;
+    QColor OwnGroundOf(Place place, const CellContent& content) const;
     QColor GroundOf(Place place, const CellContent& content) const;
     double SelectedShareOf(Place place) const;
     void FillGrounds(const std::vector<ShownCell>& cells);
+    void DrawCorner(const QRectF& cell, const QColor& ground);
+    void DrawSortArrow();
     void DrawLines(const Pane& pane);
     void DrawEdges();
     void DrawActiveFrame();
@@ -56,8 +60,10 @@ private:
     const Sheet& m_sheet;
     const SpreadGeometry& m_geometry;
     const CellLook& m_look;
+    const ShownMarks& m_marks;
     CellPainter m_cells;
     double m_thin; ///< the width of the thinnest line, in the painter's units
+    SpreadMarks m_triangles;
     std::optional<ShownSelection> m_selection;
 };
 

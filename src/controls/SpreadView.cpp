@@ -27,6 +27,11 @@ void SetUp(QScrollBar& bar, int maximum, int page, int step)
     bar.setSingleStep(std::max(step, 1));
 }
 
+bool ChangesLayout(QEvent::Type change)
+{
+    return change == QEvent::FontChange || change == QEvent::StyleChange || change == QEvent::LayoutDirectionChange;
+}
+
 } // namespace
 
 SpreadView::SpreadView(QWidget* parent) : QAbstractScrollArea(parent)
@@ -122,6 +127,7 @@ void SpreadView::LayOut()
     UpdateScrollBars();
     viewport()->update();
     TellTableChanged(*this);
+    Q_EMIT CellsMoved();
 }
 
 void SpreadView::UpdateScrollBars()
@@ -152,17 +158,34 @@ void SpreadView::paintEvent(QPaintEvent* event)
     std::optional<ShownSelection> selection;
     if (const auto block = m_selection.Block(*m_sheet))
         selection = {*block, PlaceOf(*m_sheet, m_sheet->ActiveCell()), hasFocus()};
-    SpreadPainter(painter, *m_sheet, geometry, Faces(), look).Paint(selection, event->rect());
+    SpreadPainter(painter, *m_sheet, geometry, Faces(), look, m_marks).Paint(selection, event->rect());
+}
+
+void SpreadView::ShowEditable(bool on)
+{
+    if (on == m_marks.editable)
+        return;
+    m_marks.editable = on;
+    viewport()->update();
+    TellTableChanged(*this);
+}
+
+void SpreadView::ShowSortMark(std::optional<SortMark> mark)
+{
+    m_marks.sort = mark;
+    viewport()->update();
 }
 
 void SpreadView::scrollContentsBy(int, int)
 {
     viewport()->update();
+    Q_EMIT CellsMoved();
 }
 
 void SpreadView::resizeEvent(QResizeEvent*)
 {
     UpdateScrollBars();
+    Q_EMIT CellsMoved();
 }
 
 void SpreadView::showEvent(QShowEvent* event)
@@ -171,6 +194,13 @@ void SpreadView::showEvent(QShowEvent* event)
     if (const QWindow* shown = window()->windowHandle())
         connect(shown, &QWindow::screenChanged, this, &SpreadView::FollowScreen, Qt::UniqueConnection);
     FollowScreen();
+}
+
+void SpreadView::hideEvent(QHideEvent* event)
+{
+    QAbstractScrollArea::hideEvent(event);
+    EndDrag();
+    Q_EMIT CellsMoved();
 }
 
 void SpreadView::FollowScreen()
@@ -184,7 +214,18 @@ void SpreadView::changeEvent(QEvent* event)
     QAbstractScrollArea::changeEvent(event);
     if (event->type() == QEvent::FontChange && m_sheet)
         m_sheet->SetFont(font());
-    Relayout();
+    if (ChangesLayout(event->type()))
+        Relayout();
+    else
+        viewport()->update();
+}
+
+QVariant SpreadView::inputMethodQuery(Qt::InputMethodQuery query) const
+{
+    // Where the cursor is decides where the keyboard opens a menu.
+    const bool hasCursor = query == Qt::ImCursorRectangle && Shows() && IsSelected(m_sheet->ActiveCell());
+    const QRect cursor = hasCursor ? SeenRect(m_sheet->ActiveCell()) : QRect();
+    return cursor.isEmpty() ? QAbstractScrollArea::inputMethodQuery(query) : cursor;
 }
 
 void SpreadView::focusInEvent(QFocusEvent* event)

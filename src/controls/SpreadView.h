@@ -4,6 +4,7 @@
 #include "controls/SpreadDrag.h"
 #include "controls/SpreadGeometry.h"
 #include "controls/SpreadKeys.h"
+#include "controls/SpreadMarks.h"
 #include "controls/SpreadSelection.h"
 
 #include <QAbstractScrollArea>
@@ -11,6 +12,7 @@
 #include <QBasicTimer>
 #include <QPointer>
 
+#include <functional>
 #include <optional>
 
 namespace schedules {
@@ -19,7 +21,10 @@ namespace schedules {
 /// picture, with one selection and one cursor. The cursor is the sheet's active cell.
 ///
 /// Sizes follow the screen's resolution, direction and colors follow the desktop. While the sheet does not repaint,
-/// nothing of it is looked at.
+/// nothing of it is looked at. Cells that the user has changed and not yet saved bear a mark in their far top corner.
+///
+/// With a context menu policy of its own, a menu is asked for at a point of the viewport, by the keyboard in the middle
+/// of the active cell.
 class SpreadView : public QAbstractScrollArea
 {
     Q_OBJECT
@@ -57,6 +62,22 @@ public:
     /// Puts what is selected into the clipboard, as text.
     void Copy() const;
 
+    /// Whether data cells that may be edited are told apart, on screen and to assistive programs. Off at first.
+    void ShowEditable(bool on);
+    bool ShowsEditable() const { return m_marks.editable; }
+
+    /// An arrow in the header of the column by which rows are sorted, or none.
+    void ShowSortMark(std::optional<SortMark> mark);
+
+    /// Asked about a data cell whenever the left button is pressed on it without Shift. If it says yes, the mouse
+    /// sweeps over cells until the button is released, instead of selecting them.
+    void SetSweeps(std::function<bool(Cell)> sweeps) { m_sweeps = std::move(sweeps); }
+
+    /// Does what pressing and releasing the left button on a data cell does; nothing for a hidden one.
+    void Click(Cell cell);
+
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+
     /// Tells assistive programs something about the view.
     virtual void Announce(QAccessibleEvent& event);
 
@@ -68,16 +89,30 @@ Q_SIGNALS:
     /// The active cell or the selected block has changed, for whatever reason.
     void SelectionChanged();
 
-    /// The mouse was pressed and released on one data cell.
+    /// The mouse was pressed and released on one data cell. A sweep is no click.
     void CellClicked(schedules::Cell cell);
+
+    /// The second click of a double click has ended, and was told as a click.
+    void CellDoubleClicked(schedules::Cell cell);
+
+    /// The mouse was pressed on a cell that sweeps, which is the active one now.
+    void SweepStarted(schedules::Cell cell);
+
+    /// The mouse has come to another cell, held down since the sweep started: each visible data cell of the block
+    /// between its last place and the new one, of which only the last place is not told again.
+    void SweptOver(schedules::Cell cell);
     void HeaderClicked(schedules::Column column);
     void RowHeaderClicked(schedules::Row row);
+
+    /// Cells may be seen at another place than before, or no longer.
+    void CellsMoved();
 
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -112,12 +147,18 @@ private:
     void PressCell(Place place, bool extend);
     void PressHeader(Place place);
     void DragTo(QPoint point);
+    void ReachTo(Place place);
+    void SweepTo(Place place);
     void EndDrag();
-    void Click(const SpreadDrag& drag);
+    void Release();
+    void TellClick(const SpreadDrag& drag);
+    void TellCellClick(Cell cell, const SpreadDrag& drag);
 
     QPointer<Sheet> m_sheet;
     std::optional<CellFaces> m_faces; ///< made for the sheet's font and the screen when they are needed
     SpreadSelection m_selection;
+    ShownMarks m_marks;
+    std::function<bool(Cell)> m_sweeps;
     std::optional<SpreadDrag> m_drag;
     QPoint m_dragPoint;
     QBasicTimer m_dragTimer;

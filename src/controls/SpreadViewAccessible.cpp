@@ -65,13 +65,14 @@ void TellTableChanged(SpreadView& view)
 
 void TellCellChanged(SpreadView& view, Cell cell)
 {
-    if (view.TheSheet()->Style(cell).type != CellType::CheckBox) {
+    if (view.TheSheet()->Style(cell).type == CellType::CheckBox) {
+        QAccessible::State changed;
+        changed.checked = true;
+        TellAbout(view, cell, QAccessibleStateChangeEvent(&view, changed));
+    } else {
         TellAbout(view, cell, QAccessibleEvent(&view, QAccessible::NameChanged));
-        return;
     }
-    QAccessible::State changed;
-    changed.checked = true;
-    TellAbout(view, cell, QAccessibleStateChangeEvent(&view, changed));
+    TellAbout(view, cell, QAccessibleEvent(&view, QAccessible::DescriptionChanged));
 }
 
 void TellSelectionChanged(SpreadView& view)

@@ -91,8 +91,11 @@ void SpreadView::PressCell(Place place, bool extend)
 {
     const Cell cell = CellOf(*m_sheet, place);
     const bool extends = extend && m_selection.Block(*m_sheet);
-    m_drag = {place, cell != m_sheet->ActiveCell(), extends};
+    const bool sweeps = !extend && m_sweeps && m_sweeps(cell);
+    m_drag = SpreadDrag{place, cell != m_sheet->ActiveCell(), extends, sweeps};
     extends ? ExtendTo(cell) : Activate(cell);
+    if (sweeps)
+        Q_EMIT SweepStarted(cell);
 }
 
 void SpreadView::PressHeader(Place place)
@@ -110,6 +113,8 @@ void SpreadView::PressHeader(Place place)
 void SpreadView::mouseDoubleClickEvent(QMouseEvent* event)
 {
     mousePressEvent(event);
+    if (m_drag && event->button() == Qt::LeftButton)
+        m_drag->isDouble = true;
 }
 
 void SpreadView::mouseMoveEvent(QMouseEvent* event)
@@ -120,21 +125,34 @@ void SpreadView::mouseMoveEvent(QMouseEvent* event)
 
 void SpreadView::DragTo(QPoint point)
 {
-    if (!Shows()) {
+    if (!Shows() || !m_drag) {
         EndDrag();
         return;
     }
     m_dragPoint = point;
     const SpreadGeometry geometry = Geometry();
-    const auto corner = m_drag->CornerAt(point, geometry, *m_sheet);
-    if (corner && *corner != PlaceOf(*m_sheet, m_selection.Corner(*m_sheet))) {
-        m_drag->extends = true;
-        ExtendTo(CellOf(*m_sheet, *corner));
-    }
     if (m_drag->Overshoot(point, geometry).isNull())
         m_dragTimer.stop();
     else if (!m_dragTimer.isActive())
         m_dragTimer.start(kDragInterval, this);
+    if (const auto place = m_drag->CornerAt(point, geometry, *m_sheet))
+        m_drag->sweeps ? SweepTo(*place) : ReachTo(*place);
+}
+
+void SpreadView::ReachTo(Place place)
+{
+    if (place == PlaceOf(*m_sheet, m_selection.Corner(*m_sheet)))
+        return;
+    m_drag->extends = true;
+    ExtendTo(CellOf(*m_sheet, place));
+}
+
+void SpreadView::SweepTo(Place place)
+{
+    const std::vector<Cell> cells = m_drag->CellsTo(place, *m_sheet);
+    m_drag->swept = place;
+    for (const Cell cell : cells)
+        Q_EMIT SweptOver(cell);
 }
 
 void SpreadView::timerEvent(QTimerEvent* event)
@@ -160,27 +178,50 @@ void SpreadView::EndDrag()
 
 void SpreadView::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (event->button() != Qt::LeftButton || !m_drag)
+    if (event->button() == Qt::LeftButton)
+        Release();
+}
+
+void SpreadView::Release()
+{
+    if (!m_drag)
         return;
     const SpreadDrag drag = *m_drag;
     EndDrag();
-    if (!Shows() || drag.extends)
-        return;
-    Click(drag);
+    if (Shows() && !drag.extends && !drag.HasSwept())
+        TellClick(drag);
 }
 
-void SpreadView::Click(const SpreadDrag& drag)
+void SpreadView::TellClick(const SpreadDrag& drag)
 {
     const Cell cell = CellOf(*m_sheet, drag.from);
-    if (HoldsData(*m_sheet, drag.from)) {
-        EnsureVisible(cell);
-        if (drag.movedActiveCell)
-            Q_EMIT ActiveCellMoved(cell);
-        Q_EMIT CellClicked(cell);
-    } else if (drag.ByColumns() && !drag.ByRows())
+    if (HoldsData(*m_sheet, drag.from))
+        TellCellClick(cell, drag);
+    else if (drag.ByColumns() && !drag.ByRows())
         Q_EMIT HeaderClicked(cell.column);
     else if (drag.ByRows() && !drag.ByColumns())
         Q_EMIT RowHeaderClicked(cell.row);
+}
+
+void SpreadView::TellCellClick(Cell cell, const SpreadDrag& drag)
+{
+    EnsureVisible(cell);
+    if (drag.sweeps)
+        return;
+    if (drag.movedActiveCell)
+        Q_EMIT ActiveCellMoved(cell);
+    Q_EMIT CellClicked(cell);
+    if (drag.isDouble)
+        Q_EMIT CellDoubleClicked(cell);
+}
+
+void SpreadView::Click(Cell cell)
+{
+    if (!Shows() || CellRect(cell).isEmpty() || !HoldsData(*m_sheet, PlaceOf(*m_sheet, cell)))
+        return;
+    setFocus(Qt::MouseFocusReason);
+    PressCell(PlaceOf(*m_sheet, cell), false);
+    Release();
 }
 
 } // namespace schedules

@@ -21,7 +21,9 @@ constexpr std::size_t kMaxOffset = std::numeric_limits<std::uint32_t>::max();
 
 void CellStore::Place(int line, int slot, std::string_view text, CellStyle style)
 {
-    Slot(line, slot) = Stored(text, style);
+    StoredCell& cell = Slot(line, slot);
+    text.size() <= TextOf(cell).size() ? Overwrite(cell, text) : Append(cell, text);
+    cell.style = StyleNumber(style);
     if (line > 0 && slot > 0) {
         m_lastDataLine = std::max(m_lastDataLine, line);
         m_lastDataSlot = std::max(m_lastDataSlot, slot);
@@ -94,20 +96,30 @@ void CellStore::MoveToEnd(Line& line, std::uint32_t capacity)
     line = moved;
 }
 
-CellStore::StoredCell CellStore::Stored(std::string_view text, CellStyle style)
+void CellStore::Overwrite(StoredCell& cell, std::string_view text)
+{
+    std::size_t start = cell.offset;
+    cell.length = static_cast<std::uint16_t>(std::min<std::size_t>(text.size(), kLongText));
+    if (cell.length == kLongText) {
+        const auto length = static_cast<std::uint32_t>(text.size());
+        std::memcpy(m_arena.data() + start, &length, sizeof length);
+        start += sizeof length;
+    }
+    m_arena.replace(start, text.size(), text);
+}
+
+void CellStore::Append(StoredCell& cell, std::string_view text)
 {
     if (m_arena.size() + text.size() + sizeof(std::uint32_t) > kMaxOffset)
         ThrowOverflow();
-    StoredCell cell{static_cast<std::uint32_t>(m_arena.size()), kLongText, StyleNumber(style)};
-    if (text.size() < kLongText) {
-        cell.length = static_cast<std::uint16_t>(text.size());
-    } else {
+    cell.offset = static_cast<std::uint32_t>(m_arena.size());
+    cell.length = static_cast<std::uint16_t>(std::min<std::size_t>(text.size(), kLongText));
+    if (cell.length == kLongText) {
         // The length of a text too long for the cell stands in front of it.
         const auto length = static_cast<std::uint32_t>(text.size());
         m_arena.append(reinterpret_cast<const char*>(&length), sizeof length);
     }
     m_arena.append(text);
-    return cell;
 }
 
 std::uint16_t CellStore::StyleNumber(CellStyle style)

@@ -12,7 +12,8 @@ namespace schedules {
 /// The cells of a table in lines, as the table brings them: a line is one `TR`, a slot one of its cells.
 ///
 /// A cell takes eight bytes: where its text lies, how long it is and which style it has. Texts lie one after the other
-/// in an arena, as UTF-8; a changed text is appended. Lines may have any length, and a slot may be empty.
+/// in an arena, as UTF-8. A text takes the place of the one before it where it is not longer, else it is appended.
+/// Lines may have any length, and a slot may be empty.
 class CellStore
 {
 public:
@@ -96,7 +97,8 @@ private:
     void Grow(Line& line, std::uint32_t count);
     void Extend(Line& line, std::uint32_t capacity);
     void MoveToEnd(Line& line, std::uint32_t capacity);
-    StoredCell Stored(std::string_view text, CellStyle style);
+    void Overwrite(StoredCell& cell, std::string_view text);
+    void Append(StoredCell& cell, std::string_view text);
     std::uint16_t StyleNumber(CellStyle style);
 
     std::vector<StoredCell> m_cells;

@@ -29,6 +29,7 @@ struct CellStyle
     DataType dataType = DataType::Text;
     bool allowEdit = false;
     bool userDefined = false;
+    bool edited = false; ///< changed by the user and not yet saved
 
     bool operator==(const CellStyle&) const = default;
 };

@@ -23,18 +23,18 @@ Sheet::Sheet(QObject* parent) : QObject(parent), m_columns(kDefaultColumnWidth),
 
 Sheet::~Sheet() = default;
 
-Sheet::Slot Sheet::SlotOf(Cell cell) const
+Sheet::TablePlace Sheet::TablePlaceOf(Cell cell) const
 {
     if (m_lines == Lines::AreRows)
         return {cell.row.Value(), cell.column.Value()};
     return {cell.column.Value(), cell.row.Value()};
 }
 
-Cell Sheet::CellOf(Slot slot) const
+Cell Sheet::CellAt(TablePlace place) const
 {
     if (m_lines == Lines::AreRows)
-        return {Column(slot.slot), Row(slot.line)};
-    return {Column(slot.line), Row(slot.slot)};
+        return {Column(place.slot), Row(place.line)};
+    return {Column(place.line), Row(place.slot)};
 }
 
 void Sheet::SetSize(int columns, int rows)
@@ -58,8 +58,8 @@ int Sheet::DataRowCount() const
 
 std::string_view Sheet::Utf8(Cell cell) const
 {
-    const Slot slot = SlotOf(cell);
-    return m_store.Text(slot.line, slot.slot);
+    const TablePlace place = TablePlaceOf(cell);
+    return m_store.Text(place.line, place.slot);
 }
 
 QString Sheet::Text(Cell cell) const
@@ -71,8 +71,8 @@ QString Sheet::Text(Cell cell) const
 void Sheet::SetText(Cell cell, const QString& text)
 {
     const QByteArray utf8 = text.toUtf8();
-    const Slot slot = SlotOf(cell);
-    m_store.Place(slot.line, slot.slot, std::string_view(utf8), Style(cell));
+    const TablePlace place = TablePlaceOf(cell);
+    m_store.Place(place.line, place.slot, std::string_view(utf8), Style(cell));
     m_widest.clear();
     if (m_repainting)
         Q_EMIT CellChanged(cell);
@@ -80,34 +80,22 @@ void Sheet::SetText(Cell cell, const QString& text)
 
 CellStyle Sheet::Style(Cell cell) const
 {
-    const Slot slot = SlotOf(cell);
-    return m_store.Style(slot.line, slot.slot);
+    const TablePlace place = TablePlaceOf(cell);
+    return m_store.Style(place.line, place.slot);
 }
 
 void Sheet::SetStyle(Cell cell, CellStyle style)
 {
-    const Slot slot = SlotOf(cell);
-    m_store.Restyle(slot.line, slot.slot, style);
+    const TablePlace place = TablePlaceOf(cell);
+    m_store.Restyle(place.line, place.slot, style);
     if (m_repainting)
         Q_EMIT CellChanged(cell);
 }
 
 bool Sheet::Holds(Cell cell) const
 {
-    const Slot slot = SlotOf(cell);
-    return m_store.Holds(slot.line, slot.slot);
-}
-
-std::vector<Cell> Sheet::CellsOfType(CellType type) const
-{
-    std::vector<Cell> cells;
-    for (int line = 0; line < m_store.LineCount(); ++line) {
-        m_store.ForEachIn(line, [&](int slot, std::string_view, CellStyle style) {
-            if (style.type == type)
-                cells.push_back(CellOf({line, slot}));
-        });
-    }
-    return cells;
+    const TablePlace place = TablePlaceOf(cell);
+    return m_store.Holds(place.line, place.slot);
 }
 
 void Sheet::Adopt(CellStore cells, Lines lines)
@@ -262,7 +250,7 @@ void Sheet::MeasureAll() const
     const bool allBold = m_bold.At({});
     for (int line = 0; line < m_store.LineCount(); ++line) {
         m_store.ForEachIn(line, [&](int slot, std::string_view text, CellStyle) {
-            const Cell cell = CellOf({line, slot});
+            const Cell cell = CellAt({line, slot});
             if (cell.column.Value() >= std::ssize(widest))
                 widest.resize(static_cast<std::size_t>(cell.column.Value()) + 1);
             widest[cell.column.Value()].Consider(text, isUniform ? allBold : m_bold.At(cell), measure);

@@ -10,6 +10,8 @@
 #include <QObject>
 #include <QString>
 
+#include <compare>
+#include <concepts>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -50,12 +52,41 @@ public:
     void SetStyle(Cell cell, CellStyle style);
     bool Holds(Cell cell) const;
 
-    /// The cells of that type, in the order of the table.
-    std::vector<Cell> CellsOfType(CellType type) const;
+    /// The cells whose style is as asked for, in the order of the table.
+    template <std::predicate<CellStyle> Asked>
+    std::vector<Cell> CellsWith(Asked&& asked) const
+    {
+        std::vector<Cell> cells;
+        for (int line = 0; line < m_store.LineCount(); ++line) {
+            m_store.ForEachIn(line, [&](int slot, std::string_view, CellStyle style) {
+                if (asked(style))
+                    cells.push_back(CellAt({line, slot}));
+            });
+        }
+        return cells;
+    }
+
+    std::vector<Cell> CellsOfType(CellType type) const
+    {
+        return CellsWith([type](CellStyle style) { return style.type == type; });
+    }
 
     /// Every cell that a table has placed.
     const CellStore& Store() const { return m_store; }
     Lines LinesRun() const { return m_lines; }
+
+    /// Where a cell is in the table, whichever way the lines run: in which of them, and which of its cells it is. Both
+    /// count from 0, the headers.
+    struct TablePlace
+    {
+        int line = 0;
+        int slot = 0;
+
+        auto operator<=>(const TablePlace&) const = default;
+    };
+
+    TablePlace TablePlaceOf(Cell cell) const;
+    Cell CellAt(TablePlace place) const;
 
     /// Takes over the cells of a table on top of what is there.
     void Adopt(CellStore cells, Lines lines);
@@ -126,14 +157,6 @@ Q_SIGNALS:
     void ActiveCellChanged();
 
 private:
-    struct Slot
-    {
-        int line;
-        int slot;
-    };
-
-    Slot SlotOf(Cell cell) const;
-    Cell CellOf(Slot slot) const;
     void TellChanged();
     void MeasureAll() const;
 

@@ -47,6 +47,14 @@ TEST(SheetColors, ThePreferredColorStaysWhereItIsLegible)
     EXPECT_EQ(LegibleOn(Qt::yellow, QColor(Qt::white)), QColor(Qt::black));
 }
 
+TEST(SheetColors, MarksNeedLessContrastThanTexts)
+{
+    const QColor accent(48, 140, 198);
+    EXPECT_EQ(LegibleOn(Qt::white, accent), QColor(Qt::black));
+    EXPECT_EQ(LegibleOn(Qt::white, accent, kMarkContrast), accent);
+    EXPECT_EQ(LegibleOn(accent, accent, kMarkContrast), QColor(Qt::black));
+}
+
 TEST(SheetColors, BlendsByShare)
 {
     EXPECT_EQ(Blend(QColor(0, 100, 200), QColor(100, 0, 200), 0), QColor(0, 100, 200));

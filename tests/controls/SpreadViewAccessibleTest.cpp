@@ -3,6 +3,7 @@
 #include "controls/ShownView.h"
 
 #include <QAccessible>
+#include <QSignalSpy>
 
 #include <array>
 #include <gtest/gtest.h>
@@ -146,6 +147,96 @@ TEST(SpreadViewAccessible, CheckBoxesTellTheirState)
     shown.sheet->SetText(At(1, 2), QStringLiteral("1"));
     EXPECT_EQ(shown.view.Told(QAccessible::StateChanged), QStringList{QStringLiteral("In service")});
     EXPECT_TRUE(stateOf(1).checked);
+}
+
+TEST(SpreadViewAccessible, CellsThatMayBeEditedAreEditableAsLongAsThatIsShown)
+{
+    ShownView shown(NumberedSheet(2, 2));
+    shown.sheet->SetStyle(At(1, 1), {.allowEdit = true});
+    shown.sheet->SetStyle(At(1, 0), {.allowEdit = true});
+    const auto isEditable = [&](Cell cell) {
+        const int index = cell.row.Value() * 3 + cell.column.Value();
+        const QAccessible::State state = AccessibleOf(shown)->child(index)->state();
+        EXPECT_NE(state.editable, state.readOnly);
+        return state.editable == 1;
+    };
+    EXPECT_FALSE(isEditable(At(1, 1)));
+    shown.view.ForgetTold();
+    shown.view.ShowEditable(true);
+    EXPECT_EQ(shown.view.Told(QAccessible::TableModelChanged).size(), 1) << "all cells may have changed";
+    EXPECT_TRUE(isEditable(At(1, 1)));
+    EXPECT_FALSE(isEditable(At(2, 1)));
+    EXPECT_FALSE(isEditable(At(1, 0))) << "a header";
+}
+
+TEST(SpreadViewAccessible, CellsThatMayBeEditedCanBePressed)
+{
+    ShownView shown(NumberedSheet(2, 2));
+    QSignalSpy clicked(&shown.view, &SpreadView::CellClicked);
+    shown.sheet->SetStyle(At(1, 2), {.allowEdit = true});
+    shown.sheet->SetStyle(At(1, 0), {.allowEdit = true});
+    EXPECT_EQ(TableOf(shown)->cellAt(1, 0)->actionInterface(), nullptr) << "not shown as editable";
+    shown.view.ShowEditable(true);
+    EXPECT_EQ(TableOf(shown)->cellAt(1, 1)->actionInterface(), nullptr);
+    EXPECT_EQ(AccessibleOf(shown)->child(1)->actionInterface(), nullptr) << "a header";
+    QAccessibleActionInterface* const action = TableOf(shown)->cellAt(1, 0)->actionInterface();
+    ASSERT_NE(action, nullptr);
+    EXPECT_EQ(action->actionNames(), QStringList{QAccessibleActionInterface::pressAction()});
+    action->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_EQ(clicked.count(), 0);
+    action->doAction(QAccessibleActionInterface::pressAction());
+    ASSERT_EQ(clicked.count(), 1);
+    EXPECT_EQ(clicked.front().front().value<Cell>(), At(1, 2));
+}
+
+TEST(SpreadViewAccessible, CheckBoxesCanBeToggled)
+{
+    ShownView shown(DrawnSheet(QStringLiteral("  | In service\n"
+                                              "1 | [x]")));
+    QSignalSpy swept(&shown.view, &SpreadView::SweepStarted);
+    shown.view.SetSweeps([](Cell) { return true; });
+    QAccessibleActionInterface* const action = TableOf(shown)->cellAt(0, 0)->actionInterface();
+    ASSERT_NE(action, nullptr);
+    EXPECT_EQ(action->actionNames(), QStringList{QAccessibleActionInterface::toggleAction()});
+    action->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_EQ(swept.count(), 1);
+}
+
+TEST(SpreadViewAccessible, AnActionMayChangeTheTable)
+{
+    ShownView shown(NumberedSheet(2, 2));
+    shown.view.ShowEditable(true);
+    shown.sheet->SetStyle(At(1, 1), {.allowEdit = true});
+    QObject::connect(&shown.view, &SpreadView::CellClicked, &shown.view, [&] { shown.sheet->SetSize(0, 0); });
+    TableOf(shown)->cellAt(0, 0)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(TableOf(shown)->rowCount(), 0);
+}
+
+TEST(SpreadViewAccessible, EditedCellsSayThatTheyAreNotSaved)
+{
+    ShownView shown(NumberedSheet(1, 2));
+    shown.sheet->SetStyle(At(1, 1), {.edited = true});
+    EXPECT_EQ(TableOf(shown)->cellAt(0, 0)->text(QAccessible::Description), QStringLiteral("Changed, not saved"));
+    EXPECT_EQ(TableOf(shown)->cellAt(0, 0)->text(QAccessible::Name), QStringLiteral("c1r1"));
+    EXPECT_EQ(TableOf(shown)->cellAt(1, 0)->text(QAccessible::Description), QString());
+}
+
+TEST(SpreadViewAccessible, ChangesOfTextAndStyleAreTold)
+{
+    ShownView shown(DrawnSheet(QStringLiteral("  | Head\n"
+                                              "1 | 48\n"
+                                              "2 | [ ]")));
+    const QString head = QStringLiteral("Head");
+    shown.view.ForgetTold();
+    shown.sheet->SetText(At(1, 1), QStringLiteral("50"));
+    EXPECT_EQ(shown.view.Told(QAccessible::NameChanged), QStringList{QStringLiteral("50")});
+    shown.view.ForgetTold();
+    shown.sheet->SetStyle(At(1, 1), {.edited = true});
+    EXPECT_EQ(shown.view.Told(QAccessible::DescriptionChanged), QStringList{QStringLiteral("50")});
+    shown.view.ForgetTold();
+    shown.sheet->SetStyle(At(1, 2), {.type = CellType::CheckBox, .edited = true});
+    EXPECT_EQ(shown.view.Told(QAccessible::StateChanged), QStringList{head});
+    EXPECT_EQ(shown.view.Told(QAccessible::DescriptionChanged), QStringList{head});
 }
 
 TEST(SpreadViewAccessible, TheActiveCellHasTheFocus)

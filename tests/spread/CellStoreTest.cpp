@@ -55,6 +55,84 @@ TEST(CellStore, AnotherTextReplacesTheFirst)
     EXPECT_EQ(Drawn(store), "something longer");
 }
 
+TEST(CellStore, ATextThatIsNotLongerTakesThePlaceOfTheOneBefore)
+{
+    CellStore store;
+    store.Place(0, 0, "before", kPlain);
+    store.Place(0, 1, "12.50", kPlain);
+    store.Place(0, 2, "behind", kPlain);
+    const char* const place = store.Text(0, 1).data();
+    for (const char* text : {"13.75", "7", ""}) {
+        store.Place(0, 1, text, kBox);
+        EXPECT_EQ(Drawn(store), "before | [" + std::string(text) + "] | behind");
+        EXPECT_EQ(store.Text(0, 1).data(), place);
+    }
+    store.Place(0, 1, "12.50", kPlain);
+    EXPECT_EQ(Drawn(store), "before | 12.50 | behind");
+}
+
+TEST(CellStore, TickingBoxesAgainAndAgainTakesNoMemory)
+{
+    constexpr int kBoxes = 100'000;
+    CellStore store;
+    for (int line = 0; line < kBoxes; ++line)
+        store.Place(line, 0, "0", kBox);
+    store.Squeeze();
+    const std::size_t before = store.MemoryUse();
+    for (const char* text : {"1", "0", "1", "1", "0"}) {
+        for (int line = 0; line < kBoxes; ++line)
+            store.Place(line, 0, text, {.type = CellType::CheckBox, .edited = true});
+    }
+    EXPECT_LE(store.MemoryUse(), before + 64) << "but for the new style";
+}
+
+TEST(CellStore, LongTextsAreReplacedInTheirPlaceByShorterOnes)
+{
+    for (const std::size_t length : {65'536U, 65'535U, 65'534U, 10U, 0U}) {
+        CellStore store;
+        store.Place(0, 0, std::string(65'536, 'x'), kPlain);
+        store.Place(0, 1, "behind", kPlain);
+        store.Squeeze();
+        const std::size_t before = store.MemoryUse();
+        const std::string text(length, 'y');
+        store.Place(0, 0, text, kPlain);
+        EXPECT_EQ(store.Text(0, 0), text);
+        EXPECT_EQ(store.Text(0, 1), "behind");
+        EXPECT_EQ(store.MemoryUse(), before) << length;
+    }
+}
+
+TEST(CellStore, ALongerTextIsAppendedWhateverItsLength)
+{
+    CellStore store;
+    for (const std::size_t length : {1U, 65'534U, 65'535U, 65'536U}) {
+        const std::string text(length, 'x');
+        store.Place(0, 0, text, kPlain);
+        store.Place(1, 0, "behind", kPlain);
+        ASSERT_EQ(store.Text(0, 0), text);
+        ASSERT_EQ(store.Text(1, 0), "behind");
+    }
+}
+
+TEST(CellStore, AReplacedTextLeavesCopiesAlone)
+{
+    CellStore store;
+    store.Place(0, 0, "text", kPlain);
+    const CellStore copy = store;
+    const CellStore turned = store.Transposed();
+    store.Place(0, 0, "new", kPlain);
+    EXPECT_EQ(Drawn(copy), "text");
+    EXPECT_EQ(Drawn(turned), "text");
+}
+
+TEST(CellStore, APartOfATextCanReplaceTheWhole)
+{
+    CellStore store;
+    store.Place(0, 0, "P-101A/B", kPlain);
+    store.Place(0, 0, store.Text(0, 0).substr(2, 4), kPlain);
+    EXPECT_EQ(Drawn(store), "101A");
+}
+
 TEST(CellStore, SlotsInBetweenHoldNothing)
 {
     CellStore store;

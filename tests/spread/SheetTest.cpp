@@ -105,6 +105,16 @@ TEST_F(SheetTest, LinesAreColumns)
     EXPECT_EQ(DrawnSize(sheet), "2 columns, 1 rows");
 }
 
+TEST_F(SheetTest, TellsWhereACellIsInTheTable)
+{
+    constexpr Cell kCell{Column(3), Row(5)};
+    EXPECT_EQ(sheet.TablePlaceOf(kCell), (Sheet::TablePlace{.line = 5, .slot = 3}));
+    EXPECT_EQ(sheet.CellAt({.line = 5, .slot = 3}), kCell);
+    Adopt(TableOf({{"a"}}), Lines::AreColumns);
+    EXPECT_EQ(sheet.TablePlaceOf(kCell), (Sheet::TablePlace{.line = 3, .slot = 5}));
+    EXPECT_EQ(sheet.CellAt({.line = 3, .slot = 5}), kCell);
+}
+
 TEST_F(SheetTest, TakesCellsOverOnTopOfWhatIsThere)
 {
     Adopt(TableOf({{"Tag", "Flow"}, {"P-1", "12"}}));
