@@ -50,6 +50,7 @@ protected:
     /// request with the parameter "Caller". Ends early, without a trace, when no module can be had.
     void StartUp(IMsgRouter* router, const QString& owner, const char* announcement);
     void Disconnect() { m_router = nullptr; }
+    bool IsConnected() const { return m_router != nullptr; }
 
     /// Asks the owner for the resource module, if the component has none. False when the start-up ends there: the
     /// host gave none, or (which throws) what it gave is no number.

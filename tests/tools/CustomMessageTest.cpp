@@ -1,8 +1,41 @@
 #include "tools/schedule/CustomMessage.h"
 
+#include <QElapsedTimer>
+#include <QImage>
+
 #include <gtest/gtest.h>
 
 namespace schedules {
+
+namespace {
+
+const QString kRich = QStringLiteral("{\\rtf1{\\colortbl;\\red200;}\\qc\\b Check \\b0 the \\cf1 duty\\cf0  points}");
+
+/// A box on a dark desktop, as a picture.
+QImage PictureOf(const QString& text)
+{
+    CustomMessage box;
+    QPalette palette;
+    palette.setColor(QPalette::Text, Qt::white);
+    palette.setColor(QPalette::Window, Qt::black);
+    palette.setColor(QPalette::Base, Qt::black);
+    box.setPalette(palette);
+    box.resize(300, 100);
+    box.Show({text});
+    return box.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+int BrightPixels(const QImage& picture)
+{
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x)
+            count += qGray(picture.pixel(x, y)) > 128 ? 1 : 0;
+    }
+    return count;
+}
+
+} // namespace
 
 TEST(CustomMessage, OfOneKindLeavesNothingForTheNext)
 {
@@ -17,6 +50,89 @@ TEST(CustomMessage, OfOneKindLeavesNothingForTheNext)
     box.Show({});
     EXPECT_EQ(box.toPlainText(), QString());
     EXPECT_TRUE(box.isHidden());
+}
+
+TEST(CustomMessage, InPlainTextHasNothingOfARichOneBefore)
+{
+    CustomMessage fresh;
+    fresh.Show({QStringLiteral("plain")});
+    CustomMessage box;
+    box.Show({QStringLiteral("{\\rtf1\\deftab1440\\qc\\li720\\b\\fs48 rich}")});
+    box.Show({QStringLiteral("plain")});
+    EXPECT_EQ(box.toHtml(), fresh.toHtml());
+    EXPECT_EQ(box.tabStopDistance(), fresh.tabStopDistance());
+}
+
+TEST(CustomMessage, InRichTextIsShownAsItIsWritten)
+{
+    CustomMessage box;
+    box.Show({kRich, false, true, 1});
+    EXPECT_EQ(box.toPlainText(), QStringLiteral("Check the duty points"));
+    EXPECT_EQ(box.alignment(), Qt::AlignHCenter);
+    QTextCursor cursor = box.textCursor();
+    EXPECT_EQ(cursor.position(), 0);
+    cursor.setPosition(3);
+    EXPECT_EQ(cursor.charFormat().fontWeight(), QFont::Bold);
+    EXPECT_FALSE(cursor.charFormat().fontItalic());
+    cursor.setPosition(8);
+    EXPECT_NE(cursor.charFormat().fontWeight(), QFont::Bold);
+}
+
+TEST(CustomMessage, InRichTextWithoutAnyTextIsAnEmptyBox)
+{
+    CustomMessage box;
+    box.Show({QStringLiteral("{\\rtf1}")});
+    EXPECT_EQ(box.toPlainText(), QString());
+    EXPECT_FALSE(box.isHidden());
+}
+
+TEST(CustomMessage, WithoutAColourIsReadableOnADarkDesktop)
+{
+    for (const char* text : {"text", "{\\rtf1 text}", "{\\rtf1{\\colortbl;\\red255;}\\cf0 text}"})
+        EXPECT_GT(BrightPixels(PictureOf(QLatin1String(text))), 5) << text;
+    EXPECT_EQ(BrightPixels(PictureOf(QStringLiteral("{\\rtf1{\\colortbl;\\blue255;}\\cf1 text}"))), 0);
+}
+
+TEST(CustomMessage, IsAsHighAsItsRichText)
+{
+    CustomMessage box;
+    box.resize(400, 300);
+    box.Show({QStringLiteral("{\\rtf1 one}")});
+    const int oneLine = box.sizeHint().height();
+    box.Show({QStringLiteral("{\\rtf1 one\\par two\\line three}")});
+    EXPECT_EQ(box.sizeHint().height(), oneLine + 2 * box.fontMetrics().lineSpacing());
+}
+
+TEST(CustomMessage, LoadsNothingWhateverAsksForIt)
+{
+    CustomMessage box;
+    box.Show(
+        {QStringLiteral("{\\rtf1{\\field{\\*\\fldinst INCLUDEPICTURE \"file://" SCHEDULES_SOURCE_DIR
+                        "/resources/icons/print.svg\"}{\\fldrslt picture}}{\\pict 00}{\\object{\\*\\objdata 00}}}")});
+    EXPECT_EQ(box.toPlainText(), QStringLiteral("picture"));
+    for (const auto type :
+         {QTextDocument::HtmlResource, QTextDocument::ImageResource, QTextDocument::StyleSheetResource}) {
+        const QUrl source = QUrl::fromLocalFile(QStringLiteral(__FILE__));
+        EXPECT_EQ(box.document()->resource(type, source).toByteArray(), QByteArray());
+        EXPECT_EQ(box.loadResource(type, source).toByteArray(), QByteArray());
+    }
+}
+
+TEST(CustomMessage, OfTenMegabytesIsShownInTime)
+{
+    CustomMessage box;
+    box.resize(400, 300);
+    box.show();
+    QElapsedTimer timer;
+    timer.start();
+    box.Show(
+        {"{\\rtf1 " +
+         QStringLiteral("Check the {\\b duty points} of the pumps before the next outage.\\par ").repeated(150'000) +
+         '}'});
+    EXPECT_GT(box.sizeHint().height(), 4000);
+    box.grab();
+    EXPECT_LT(timer.elapsed(), 20'000); // wide, for instrumented builds; it takes a second or two
+    printf("%lld\n", timer.elapsed());
 }
 
 TEST(CustomMessage, IsAsHighAsItsText)

@@ -1,12 +1,17 @@
 #include "tools/schedule/CustomMessage.h"
 
+#include "rtf/RtfReader.h"
+
+#include <QResizeEvent>
 #include <QTextCursor>
 
 namespace schedules {
 
 namespace {
 
-constexpr auto kRichTextMark = u"{\\rtf";
+// A text of this length is higher than any screen. Measuring it exactly would take its time, and change nothing.
+constexpr int kLongText = 400'000;
+constexpr int kHigherThanScreens = 10'000;
 
 Qt::Alignment AlignmentOf(int number)
 {
@@ -22,10 +27,11 @@ Qt::Alignment AlignmentOf(int number)
 
 } // namespace
 
-CustomMessage::CustomMessage(QWidget* parent) : QTextEdit(parent)
+CustomMessage::CustomMessage(QWidget* parent) : QTextEdit(parent), m_plainTabDistance(tabStopDistance())
 {
     setObjectName(QStringLiteral("rtbCustomMsg"));
     setReadOnly(true);
+    setUndoRedoEnabled(false);
     setFrameStyle(QFrame::NoFrame);
     viewport()->setAutoFillBackground(false);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -36,7 +42,7 @@ CustomMessage::CustomMessage(QWidget* parent) : QTextEdit(parent)
 
 void CustomMessage::Show(const CustomMessageText& message)
 {
-    if (message.text.contains(kRichTextMark))
+    if (rtf::IsRichText(message.text))
         ShowRich(message.text);
     else
         ShowPlain(message);
@@ -50,24 +56,33 @@ void CustomMessage::ShowPlain(const CustomMessageText& message)
     font.setBold(message.bold);
     font.setItalic(message.italic);
     setFont(font);
+    // What a rich text before it has left.
+    setTabStopDistance(m_plainTabDistance);
+    setCurrentCharFormat({});
     setPlainText(message.text);
     selectAll();
     setAlignment(AlignmentOf(message.alignment));
-    QTextCursor cursor = textCursor();
-    cursor.movePosition(QTextCursor::Start);
-    setTextCursor(cursor);
+    moveCursor(QTextCursor::Start);
 }
 
 void CustomMessage::ShowRich(const QString& text)
 {
     setFont({});
-    setPlainText(text);
+    rtf::ReadRichText(text, *document(), logicalDpiX());
+    moveCursor(QTextCursor::Start);
+}
+
+QVariant CustomMessage::loadResource(int, const QUrl&)
+{
+    // The document loads by itself what is no value at all.
+    return QByteArray();
 }
 
 QSize CustomMessage::sizeHint() const
 {
-    const int height = qRound(document()->size().height()) + 2 * frameWidth();
-    return {QTextEdit::sizeHint().width(), height};
+    const bool isLong = document()->characterCount() > kLongText;
+    const int height = isLong ? kHigherThanScreens : qRound(document()->size().height());
+    return {QTextEdit::sizeHint().width(), height + 2 * frameWidth()};
 }
 
 QSize CustomMessage::minimumSizeHint() const

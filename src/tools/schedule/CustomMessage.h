@@ -5,7 +5,8 @@
 
 namespace schedules {
 
-/// What the host wants to be read above the grid.
+/// What the host wants to be read above the grid: plain text, or rich text (see rtf/RtfReader.h), to which the other
+/// members do not apply.
 struct CustomMessageText
 {
     QString text;
@@ -15,7 +16,7 @@ struct CustomMessageText
 };
 
 /// The box for the host's message: as high as its text (it scrolls when it gets less room), and gone when there is
-/// none.
+/// none. Text without a colour of its own has the palette's. Nothing is ever loaded or followed.
 class CustomMessage : public QTextEdit
 {
     Q_OBJECT
@@ -28,12 +29,17 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+    /// Empty, whatever is asked for: no text can make the box load a file.
+    QVariant loadResource(int type, const QUrl& name) override;
+
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     void ShowPlain(const CustomMessageText& message);
     void ShowRich(const QString& text);
+
+    qreal m_plainTabDistance;
 };
 
 } // namespace schedules

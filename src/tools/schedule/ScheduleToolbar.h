@@ -1,7 +1,12 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QToolBar>
+
+class QKeyEvent;
+class QMenu;
+class QToolButton;
 
 namespace schedules {
 
@@ -17,7 +22,7 @@ struct ToolDescription
 {
     QString owner;
     QString key;
-    int image = 0; ///< number in the view's list of images; 0 for none
+    int image = 0; ///< number in the view's list of images (`ImageFile`); 0 for none
     QString caption;
     QString tooltip;
     bool visible = true;
@@ -26,6 +31,8 @@ struct ToolDescription
 
 /// The band of tools above the grid. Each tool is an action that has its key for a name; a key occurs once. The
 /// view's own tools come first, then those of the host, in the order in which they were added.
+///
+/// Tab reaches each tool and the button behind which a narrow bar keeps those that do not fit; Space and Enter click.
 class ScheduleToolbar : public QToolBar
 {
     Q_OBJECT
@@ -42,13 +49,27 @@ public:
     /// Adds a tool of the host. False when the key exists.
     bool AddHostTool(const ToolDescription& tool);
 
+    /// Gives a tool an arrow that opens a menu, as Down and Alt+Down do while the tool has the focus; a click beside
+    /// the arrow still is the tool's. Where a narrow bar hides the tool, its place is taken by a submenu. The menu
+    /// stays the caller's; it takes the tool's caption for a title, and keeps its own title, if it had one, as its
+    /// accessible name. False when there is no tool of that key.
+    bool AddDropDown(const QString& key, QMenu* menu);
+
 Q_SIGNALS:
     void ViewToolClicked(const QString& key);
     void HostToolClicked(const QString& owner, const QString& key);
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     QAction* NewTool(const ToolDescription& tool);
+    void OpenToKeyboard();
+    QToolButton* ButtonOf(QAction* action) const;
+    QList<QToolButton*> Buttons() const;
+    bool TakesKey(QToolButton& button, const QKeyEvent& key);
 
+    QToolButton* m_more = nullptr; ///< stands for the tools that do not fit
     QAction* m_firstHostTool = nullptr;
 };
 

@@ -3,6 +3,8 @@
 #include "common/CResEnum.h"
 #include "common/StringNumbers.h"
 
+#include <array>
+
 namespace schedules {
 
 namespace {
@@ -14,6 +16,8 @@ constexpr ScheduleTool kPrintSelections{"btnPrint", kPrint.caption, 1, kPrintSel
 constexpr ScheduleTool kExport{"btnExport", "Export", 2, kExportCaption};
 constexpr ScheduleTool kCustomize{"btnCustomize", "Customize", 3, kCustomizeTooltip};
 constexpr ScheduleTool kHelp{"btnHelp", "Help", 4, kHelpTooltip};
+
+constexpr std::array kImages{"print", "export", "customize", "help", "transpose", "save"};
 
 } // namespace
 
@@ -28,6 +32,13 @@ std::vector<ScheduleTool> ScheduleToolsOf(int viewType, bool printsSelections)
         return {kTranspose, kExport, kHelp};
     }
     return {};
+}
+
+QString ImageFile(int image)
+{
+    if (image < 1 || image > std::ssize(kImages))
+        return {};
+    return QStringLiteral(":/schedules/icons/%1.svg").arg(QLatin1String(kImages.at(image - 1)));
 }
 
 } // namespace schedules

@@ -3,6 +3,7 @@
 #include "common/CResEnum.h"
 #include "common/StringNumbers.h"
 #include "common/modResource.h"
+#include "controls/CellEditBox.h"
 #include "controls/DesktopUserInterface.h"
 #include "controls/SpreadView.h"
 #include "spread/RepaintingOff.h"
@@ -10,9 +11,11 @@
 #include "tools/schedule/ScheduleTools.h"
 
 #include <QAction>
+#include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -47,6 +50,9 @@ ctlSchedule::ctlSchedule(UserInterface* userInterface)
 ctlSchedule::~ctlSchedule()
 {
     Disconnect();
+    m_edit = {};
+    m_spread->disconnect(this);
+    m_editBox->disconnect(this);
     m_spread->SetSheet(nullptr);
     m_engine.SetSched(nullptr);
     m_sheet = nullptr;
@@ -58,16 +64,22 @@ void ctlSchedule::BuildControls()
     m_sheet = new Sheet(this);
     m_customMessage = new CustomMessage(this);
     m_toolbar = new ScheduleToolbar(this);
-    m_spread = Named<SpreadView>("vaSpread1", this);
+    BuildGrid();
     m_legend = Named<QLabel>("lblLegend", this);
     m_legend->setWordWrap(true);
     m_legend->hide();
     m_continue = Named<QPushButton>("cmdContinue", QStringLiteral("Continue"), this);
-    m_continue->setEnabled(false); // this version collects no tags yet
     m_continue->hide();
     m_cancel = Named<QPushButton>("cmdCancel", QStringLiteral("Cancel"), this);
+}
+
+void ctlSchedule::BuildGrid()
+{
+    m_spread = Named<SpreadView>("vaSpread1", this);
     m_spread->SetSheet(m_sheet);
+    m_spread->setContextMenuPolicy(Qt::CustomContextMenu);
     m_engine.SetSched(m_sheet);
+    m_editBox = Named<CellEditBox>("txtEditCell", m_spread->viewport());
     setFocusProxy(m_spread);
 }
 
@@ -89,8 +101,23 @@ void ctlSchedule::BuildLayout()
 void ctlSchedule::ConnectControls()
 {
     connect(m_toolbar, &ScheduleToolbar::ViewToolClicked, this, &ctlSchedule::ab_ToolClick);
-    connect(m_toolbar, &ScheduleToolbar::HostToolClicked, this, &ctlSchedule::HostToolClicked);
+    connect(m_toolbar, &ScheduleToolbar::HostToolClicked, this, [this](const QString& owner, const QString& key) {
+        CommitCellEdit();
+        Q_EMIT HostToolClicked(owner, key);
+    });
+    connect(m_continue, &QPushButton::clicked, this, &ctlSchedule::cmdContinue_Click);
     connect(m_cancel, &QPushButton::clicked, this, &ctlSchedule::cmdCancel_Click);
+    connect(m_spread, &QWidget::customContextMenuRequested, this, &ctlSchedule::ShowContextMenu);
+    ConnectEditing();
+    ConnectCheckBoxes();
+}
+
+/// Closing the window that is this view is what its last button does.
+void ctlSchedule::closeEvent(QCloseEvent* event)
+{
+    if (!m_unloaded && IsConnected())
+        cmdCancel_Click();
+    event->setAccepted(m_unloaded || !IsConnected());
 }
 
 void ctlSchedule::resizeEvent(QResizeEvent* event)
@@ -122,7 +149,7 @@ void ctlSchedule::IToolUI_Initialize(IMsgRouter* msgRouter, const QString& sOwne
 
 void ctlSchedule::IToolUI_XML(const QString& sData)
 {
-    m_scheduleXml = sData;
+    m_held.Hold(sData);
     m_xmlIsNew = true;
 }
 
@@ -137,14 +164,15 @@ void ctlSchedule::IToolUI_Activate()
 void ctlSchedule::IToolUI_Deactivate([[maybe_unused]] bool bCancel)
 {
     TraceProcedure(__func__);
+    CommitCellEdit();
 }
 
 void ctlSchedule::Activate()
 {
+    CommitCellEdit();
+    m_unloaded = false;
     ShowCommandButtons();
     StartNormalLayout();
-    if (std::exchange(m_xmlIsNew, false))
-        SetTagDataDirty(false);
     if (!ShowHeldXml())
         return;
     InitializeControls();
@@ -161,10 +189,21 @@ void ctlSchedule::StartNormalLayout()
 
 bool ctlSchedule::ShowHeldXml()
 {
+    if (std::exchange(m_xmlIsNew, false))
+        LeaveFormerXml();
+    m_held.Settle();
     if (IsSelectorView() ? LoadSelection() : LoadSchedule())
         return true;
     ShowBox(IsSelectorView() ? kSelectionNotShown : kScheduleNotShown);
     return false;
+}
+
+/// The edits are gone with their document, and the new one is shown from its start.
+void ctlSchedule::LeaveFormerXml()
+{
+    SetTagDataDirty(false);
+    m_spread->horizontalScrollBar()->setValue(0);
+    m_spread->verticalScrollBar()->setValue(0);
 }
 
 bool ctlSchedule::LoadSchedule()
@@ -172,17 +211,23 @@ bool ctlSchedule::LoadSchedule()
     m_sheet = m_engine.Sched();
     const RepaintingOff off(*m_sheet);
     m_legend->hide();
-    return m_engine.LoadScheduleData(m_scheduleXml);
+    m_spread->ShowEditable(IsScheduleView());
+    const bool loaded = m_engine.LoadScheduleData(m_held.Text());
+    ForgetSorting();
+    MarkUnsaved();
+    return loaded;
 }
 
 bool ctlSchedule::LoadSelection()
 {
     m_sheet = m_engine.Sched();
     const RepaintingOff off(*m_sheet);
-    if (!m_engine.SchedInitialize() || !m_engine.LoadSelectionData(m_scheduleXml, m_selectAllTags))
-        return false;
-    UpdateLegend();
-    return true;
+    m_spread->ShowEditable(IsScheduleView());
+    const bool loaded = m_engine.SchedInitialize() && m_engine.LoadSelectionData(m_held.Text(), m_selectAllTags);
+    ForgetSorting();
+    if (loaded)
+        UpdateLegend();
+    return loaded;
 }
 
 bool ctlSchedule::LoadScheduleData(const QString& sData)
@@ -190,6 +235,7 @@ bool ctlSchedule::LoadScheduleData(const QString& sData)
     bool loaded = false;
     TellingUser(__func__, [&] {
         m_continue->hide();
+        CommitCellEdit();
         HoldNewXml(sData);
         loaded = LoadSchedule();
         if (!loaded)
@@ -203,6 +249,7 @@ bool ctlSchedule::LoadSelectionData(const QString& sData)
     bool loaded = false;
     TellingUser(__func__, [&] {
         m_continue->show();
+        CommitCellEdit();
         HoldNewXml(sData);
         loaded = LoadSelection();
         if (!loaded)
@@ -213,9 +260,9 @@ bool ctlSchedule::LoadSelectionData(const QString& sData)
 
 void ctlSchedule::HoldNewXml(const QString& xml)
 {
-    m_scheduleXml = xml;
+    m_held.Hold(xml);
     m_xmlIsNew = false;
-    SetTagDataDirty(false);
+    LeaveFormerXml();
 }
 
 void ctlSchedule::ShowBox(int textNumber)
@@ -259,6 +306,7 @@ void ctlSchedule::FreezeColumns(int count)
 void ctlSchedule::CleanUP()
 {
     TellingHost(__func__, [this] {
+        CommitCellEdit();
         Sheet* const sheet = std::exchange(m_sheet, nullptr);
         if (!sheet)
             return;

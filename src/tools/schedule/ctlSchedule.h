@@ -1,16 +1,21 @@
 #pragma once
 
 #include "grid/CSchedule.h"
+#include "spread/RowSort.h"
 #include "spread/Sheet.h"
 #include "tools/ToolControl.h"
 #include "tools/schedule/CustomMessage.h"
+#include "tools/schedule/HeldDocument.h"
 #include "tools/schedule/ToolIdentifiers.h"
 
+class QKeyEvent;
 class QLabel;
+class QMenu;
 class QPushButton;
 
 namespace schedules {
 
+class CellEditBox;
 class ScheduleToolbar;
 class SpreadView;
 
@@ -43,7 +48,7 @@ class ctlSchedule : public ToolControl
     /// How the grid is laid out now, see `CSchedule`.
     Q_PROPERTY(int SchedOrientation READ SchedOrientation)
     Q_PROPERTY(bool TransposeData READ TransposeData)
-    /// What the grid shows; null after `CleanUP`.
+    /// What the grid shows; null after `CleanUP`. Cells in which values were edited and not saved say so.
     Q_PROPERTY(schedules::Sheet* sheet READ ShownSheet)
 
 public:
@@ -72,8 +77,10 @@ public:
     /// Empties the grid and lets go of it.
     Q_INVOKABLE void CleanUP();
 
-    /// Sorting by the active column: this view keeps the order of the document.
-    Q_INVOKABLE void DoColSort() {}
+    /// Sorts the rows that are shown by the active column: ascending, then descending, then in the document's order
+    /// again. Rows under a group's heading stay under it, frozen rows in their places. Does nothing while the lines of
+    /// the table are shown as columns.
+    Q_INVOKABLE void DoColSort();
 
     /// Does what a click on the tool of that key does; nothing for a key that is none of the view's.
     Q_INVOKABLE void ab_ToolClick(const QString& key);
@@ -95,12 +102,15 @@ protected:
     /// Sets whether there are edited values; the Save tool is enabled as long as there are.
     void SetTagDataDirty(bool dirty);
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     using Command = void (ctlSchedule::*)();
 
     void BuildControls();
+    void BuildGrid();
     void BuildLayout();
     void ConnectControls();
     void ResizeUserControl();
@@ -114,6 +124,7 @@ private:
     bool ShowHeldXml();
     bool LoadSchedule();
     bool LoadSelection();
+    void LeaveFormerXml();
     void HoldNewXml(const QString& xml);
     void ShowBox(int textNumber);
     void UpdateLegend();
@@ -123,19 +134,79 @@ private:
     // The controls around the grid.
     void InitializeControls();
     void AddToolbarButton(const QString& key, int image, const QString& caption, const QString& tooltip, bool visible);
+    bool HasCommand(const QString& key) const;
+    void BuildExportMenu();
+    void AddExport(const char* name, int caption);
     void ShowCommandButtons();
     void ShowCustomMessage();
     void FollowTagDataDirty();
 
+    // Editing. An edit is idle or open; committing closes it.
+    struct CellEdit
+    {
+        Column column{-1};
+        Row row{-1};
+        QString previous; ///< the text of the cell when the edit began
+        bool editing = false;
+    };
+
+    void ConnectEditing();
+    bool MayEdit() const;
+    bool CellEditable(Sheet::TablePlace place) const;
+    bool IsEditableCheckBox(Cell cell) const;
+    void StartCellEdit(Cell cell);
+    void BeginCellEdit(Column column, Row row);
+    void CommitCellEdit();
+    void CloseEditBox();
+    void ChangeCell(Cell cell, const QString& text);
+    void MarkUnsaved();
+    void ForgetUnsaved();
+    void GridCellMoved(Cell cell);
+    void ValidateEditBox();
+    void EditBoxEscape();
+    void GoOnVertically(Qt::Key key);
+    void GoOnByTab(bool forward);
+    bool GoOnToEditable(bool forward);
+    bool GridKeyPressed(const QKeyEvent& event);
+    bool OpenEditByKey(const QKeyEvent& event);
+    bool CommitByKey();
+    bool ToggleByKey(const QKeyEvent& event);
+    bool LeaveCheckBox(bool forward);
+
+    // Check boxes and the selection of tags.
+    void ConnectCheckBoxes();
+    bool Toggles(Cell cell) const;
+    void SetTicked(Cell cell, bool ticked);
+    void ToggleCheckBox(Cell cell);
+    void ClickCheckBox(Cell cell);
+    void StartSweep(Cell cell);
+    void Sweep(Cell cell);
+    void TickVisible(bool (*ticks)(bool ticked));
+    std::pair<int, QString> GetSelectedTags() const;
+    void cmdContinue_Click();
+    void PrintSelections();
+
+    // Sorting and the grid's menus.
+    void HeaderClick(Column column);
+    bool Sortable() const;
+    RowOrder NextOrder() const;
+    void Sort(Column column, RowOrder order);
+    void ForgetSorting();
+    void ShowContextMenu(QPoint point);
+    void AddTickingTo(QMenu& menu);
+    void AddSortingTo(QMenu& menu);
+
     // Commands.
     static Command CommandOf(const QString& key);
     void Transpose();
+    void Print();
     void Customize();
     void Help();
     void Save();
     void UpdateTagScheduleData();
     void cmdCancel_Click();
     bool MayUnload();
+    void Unload();
     void SaveBeforeUnloading();
 
     CSchedule m_engine;
@@ -144,14 +215,23 @@ private:
     CustomMessage* m_customMessage = nullptr;
     ScheduleToolbar* m_toolbar = nullptr;
     SpreadView* m_spread = nullptr;
+    CellEditBox* m_editBox = nullptr;
+    QMenu* m_exportMenu = nullptr;
     QLabel* m_legend = nullptr;
     QPushButton* m_continue = nullptr;
     QPushButton* m_cancel = nullptr;
     Sheet* m_sheet = nullptr;
 
-    QString m_scheduleXml;
+    HeldDocument m_held;
     bool m_xmlIsNew = false;    ///< the host has handed over text that no activation has loaded yet
+    bool m_unloaded = false;    ///< the host has been told to unload the view
     bool m_initialised = false; ///< the controls around the grid have been set up
+
+    CellEdit m_edit;
+    bool m_validating = false; ///< the edit box is being validated, which must not begin anew
+    bool m_sweepTicks = false; ///< what the mouse makes of the check boxes that it sweeps over
+    Column m_sortedColumn{0};
+    RowOrder m_rowOrder = RowOrder::Document;
 
     QString m_builderPdsg;
     int m_viewType = 0;

@@ -3,6 +3,7 @@
 #include "common/CResEnum.h"
 #include "common/StringNumbers.h"
 #include "common/modResource.h"
+#include "controls/SpreadView.h"
 #include "tools/schedule/ctlSchedule.h"
 
 #include <array>
@@ -23,6 +24,7 @@ constexpr auto kSaveQuestion = "Save Tag data?";
 void ctlSchedule::ab_ToolClick(const QString& key)
 {
     TellingUser(__func__, [&] {
+        CommitCellEdit();
         if (const Command command = CommandOf(key))
             (this->*command)();
     });
@@ -30,9 +32,10 @@ void ctlSchedule::ab_ToolClick(const QString& key)
 
 ctlSchedule::Command ctlSchedule::CommandOf(const QString& key)
 {
-    static constexpr std::array<std::pair<const char*, Command>, 4> kCommands{{
+    static constexpr std::array<std::pair<const char*, Command>, 5> kCommands{{
         {"btnTranspose", &ctlSchedule::Transpose},
         {"btnSaveTag", &ctlSchedule::Save},
+        {"btnPrint", &ctlSchedule::Print},
         {"btnCustomize", &ctlSchedule::Customize},
         {"btnHelp", &ctlSchedule::Help},
     }};
@@ -45,12 +48,21 @@ ctlSchedule::Command ctlSchedule::CommandOf(const QString& key)
 
 void ctlSchedule::Transpose()
 {
+    const Sheet::TablePlace active = m_engine.Sched()->TablePlaceOf(m_engine.Sched()->ActiveCell());
     m_engine.SetTransposeData(!m_engine.TransposeData());
     m_engine.SetSchedOrientation(m_engine.SchedOrientation() != 1 ? 1 : 0);
     const int rows = m_rowsFrozen;
     FreezeRows(m_colsFrozen);
     FreezeColumns(rows);
     ShowHeldXml();
+    m_sheet->SetActiveCell(m_sheet->CellAt(active));
+    m_spread->EnsureVisible(m_sheet->ActiveCell());
+}
+
+void ctlSchedule::Print()
+{
+    if (IsSelectorView())
+        PrintSelections();
 }
 
 void ctlSchedule::Customize()
@@ -79,19 +91,32 @@ void ctlSchedule::Save()
         SetTagDataDirty(wasDirty);
         throw;
     }
+    ForgetUnsaved();
 }
 
 void ctlSchedule::UpdateTagScheduleData()
 {
-    SendEventToOwner(Event(u"UpdateTagScheduleData", {m_builderPdsg, m_scheduleXml}));
+    SendEventToOwner(Event(u"UpdateTagScheduleData", {m_builderPdsg, m_held.Text()}));
 }
 
 void ctlSchedule::cmdCancel_Click()
 {
     TellingUser(__func__, [this] {
+        CommitCellEdit();
         if (MayUnload())
-            SendEventToOwner(Event(u"UnloadSchedule", {QStringLiteral("True")}));
+            Unload();
     });
+}
+
+void ctlSchedule::Unload()
+{
+    m_unloaded = true;
+    try {
+        SendEventToOwner(Event(u"UnloadSchedule", {QStringLiteral("True")}));
+    } catch (...) {
+        m_unloaded = false;
+        throw;
+    }
 }
 
 bool ctlSchedule::MayUnload()
@@ -115,6 +140,7 @@ void ctlSchedule::SaveBeforeUnloading()
         return;
     UpdateTagScheduleData();
     SetTagDataDirty(false);
+    ForgetUnsaved();
 }
 
 } // namespace schedules

@@ -8,6 +8,7 @@
 #include "tools/schedule/ctlSchedule.h"
 
 #include <QAction>
+#include <QMenu>
 #include <QPushButton>
 
 namespace schedules {
@@ -23,8 +24,9 @@ void ctlSchedule::InitializeControls()
                          true);
         // What this version has no command for cannot be clicked.
         if (QAction* action = m_toolbar->Tool(QLatin1String(tool.key)))
-            action->setEnabled(CommandOf(QLatin1String(tool.key)) != nullptr);
+            action->setEnabled(HasCommand(QLatin1String(tool.key)));
     }
+    BuildExportMenu();
     m_toolbar->setAccessibleName(ComponentText(QT_TRANSLATE_NOOP("Schedules", "Toolbar")));
     ShowCustomMessage();
 }
@@ -37,6 +39,28 @@ void ctlSchedule::AddToolbarButton(const QString& key, int image, const QString&
         m_toolbar->updateGeometry();
         m_toolbar->update();
     });
+}
+
+bool ctlSchedule::HasCommand(const QString& key) const
+{
+    return CommandOf(key) && !(key == QLatin1String("btnPrint") && IsScheduleView());
+}
+
+void ctlSchedule::BuildExportMenu()
+{
+    m_exportMenu = new QMenu(LoadResString(kExportCaption), this);
+    m_exportMenu->setObjectName(QStringLiteral("mnuExport"));
+    AddExport("mnuExportExcel", static_cast<int>(CResEnum::ectlSchedule::mnuExportExcel_CAPTION));
+    AddExport("mnuExportHtml", static_cast<int>(CResEnum::ectlSchedule::mnuExportHtml_CAPTION));
+    m_toolbar->AddDropDown(QStringLiteral("btnExport"), m_exportMenu);
+}
+
+void ctlSchedule::AddExport(const char* name, int caption)
+{
+    QAction* entry = m_exportMenu->addAction(LoadResString(caption));
+    entry->setObjectName(QLatin1String(name));
+    entry->setEnabled(HasCommand(QLatin1String(name)));
+    connect(entry, &QAction::triggered, this, [this, name] { ab_ToolClick(QLatin1String(name)); });
 }
 
 int ctlSchedule::GetUniqueToolID()
