@@ -78,11 +78,12 @@ TEST(CustomMessage, InRichTextIsShownAsItIsWritten)
     EXPECT_NE(cursor.charFormat().fontWeight(), QFont::Bold);
 }
 
-TEST(CustomMessage, InRichTextWithoutAnyTextIsAnEmptyBox)
+TEST(CustomMessage, IsGoneWhenTheRichTextHasNoText)
 {
     CustomMessage box;
     box.Show({QStringLiteral("{\\rtf1}")});
-    EXPECT_EQ(box.toPlainText(), QString());
+    EXPECT_TRUE(box.isHidden());
+    box.Show({QStringLiteral("{\\rtf1 a}")});
     EXPECT_FALSE(box.isHidden());
 }
 
@@ -132,7 +133,6 @@ TEST(CustomMessage, OfTenMegabytesIsShownInTime)
     EXPECT_GT(box.sizeHint().height(), 4000);
     box.grab();
     EXPECT_LT(timer.elapsed(), 20'000); // wide, for instrumented builds; it takes a second or two
-    printf("%lld\n", timer.elapsed());
 }
 
 TEST(CustomMessage, IsAsHighAsItsText)

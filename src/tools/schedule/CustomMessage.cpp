@@ -2,8 +2,10 @@
 
 #include "rtf/RtfReader.h"
 
+#include <QPointer>
 #include <QResizeEvent>
 #include <QTextCursor>
+#include <QTextDocument>
 
 namespace schedules {
 
@@ -27,11 +29,10 @@ Qt::Alignment AlignmentOf(int number)
 
 } // namespace
 
-CustomMessage::CustomMessage(QWidget* parent) : QTextEdit(parent), m_plainTabDistance(tabStopDistance())
+CustomMessage::CustomMessage(QWidget* parent) : QTextEdit(parent)
 {
     setObjectName(QStringLiteral("rtbCustomMsg"));
     setReadOnly(true);
-    setUndoRedoEnabled(false);
     setFrameStyle(QFrame::NoFrame);
     viewport()->setAutoFillBackground(false);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -46,7 +47,7 @@ void CustomMessage::Show(const CustomMessageText& message)
         ShowRich(message.text);
     else
         ShowPlain(message);
-    setVisible(!message.text.isEmpty());
+    setVisible(!document()->isEmpty());
     updateGeometry();
 }
 
@@ -56,9 +57,7 @@ void CustomMessage::ShowPlain(const CustomMessageText& message)
     font.setBold(message.bold);
     font.setItalic(message.italic);
     setFont(font);
-    // What a rich text before it has left.
-    setTabStopDistance(m_plainTabDistance);
-    setCurrentCharFormat({});
+    ShowDocument(NewDocument());
     setPlainText(message.text);
     selectAll();
     setAlignment(AlignmentOf(message.alignment));
@@ -68,8 +67,27 @@ void CustomMessage::ShowPlain(const CustomMessageText& message)
 void CustomMessage::ShowRich(const QString& text)
 {
     setFont({});
-    rtf::ReadRichText(text, *document(), logicalDpiX());
-    moveCursor(QTextCursor::Start);
+    std::unique_ptr<QTextDocument> rich = NewDocument();
+    // Before it is shown: a document that is seen lays itself out while it is written.
+    rtf::ReadRichText(text, *rich, logicalDpiX());
+    ShowDocument(std::move(rich));
+}
+
+std::unique_ptr<QTextDocument> CustomMessage::NewDocument() const
+{
+    auto document = std::make_unique<QTextDocument>();
+    document->setUndoRedoEnabled(false);
+    document->setDefaultFont(font());
+    return document;
+}
+
+void CustomMessage::ShowDocument(std::unique_ptr<QTextDocument> next)
+{
+    // The first one is deleted by the box itself.
+    const QPointer<QTextDocument> former = document();
+    next->setParent(this);
+    setDocument(next.release());
+    delete former;
 }
 
 QVariant CustomMessage::loadResource(int, const QUrl&)

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QTextEdit>
 
+#include <memory>
+
 namespace schedules {
 
 /// What the host wants to be read above the grid: plain text, or rich text (see rtf/RtfReader.h), to which the other
@@ -39,7 +41,9 @@ private:
     void ShowPlain(const CustomMessageText& message);
     void ShowRich(const QString& text);
 
-    qreal m_plainTabDistance;
+    std::unique_ptr<QTextDocument> NewDocument() const;
+    /// In place of the one before, of which nothing is left.
+    void ShowDocument(std::unique_ptr<QTextDocument> next);
 };
 
 } // namespace schedules
