@@ -43,6 +43,8 @@ private:
 class CellLocator : public ScheduleReader
 {
 public:
+    CellLocator() : ScheduleReader(Contents::Dropped) {}
+
     void StartElement(const XmlStartTag& tag) override;
     void EndElement(std::size_t end) override;
 

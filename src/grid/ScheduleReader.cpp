@@ -127,7 +127,13 @@ void ScheduleReader::EndTextOf(Open& element)
 
 void ScheduleReader::AddEmptyCell(Open& row)
 {
-    m_table.cells.Place(row.row, row.cells++, {}, {});
+    PlaceCell(row.row, row.cells++, {}, {});
+}
+
+void ScheduleReader::PlaceCell(int row, int slot, std::string_view text, CellStyle style)
+{
+    if (m_contents == Contents::Kept)
+        m_table.cells.Place(row, slot, text, style);
 }
 
 void ScheduleReader::EndElement([[maybe_unused]] std::size_t end)
@@ -136,8 +142,7 @@ void ScheduleReader::EndElement([[maybe_unused]] std::size_t end)
     if (element.isCell) {
         EndTextOf(element);
         const Value& value = m_values[--m_valueCount];
-        m_table.cells.Place(element.cellRow, element.cellSlot, value.hidden ? std::string_view() : value.text,
-                            value.style);
+        PlaceCell(element.cellRow, element.cellSlot, value.hidden ? std::string_view() : value.text, value.style);
     }
     m_open.pop_back();
 }

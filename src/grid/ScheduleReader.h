@@ -19,6 +19,8 @@ namespace schedules {
 class ScheduleReader : public XmlHandler
 {
 public:
+    ScheduleReader() = default;
+
     void StartElement(const XmlStartTag& tag) override;
     void EndElement(std::size_t end) override;
     void Text(std::string_view text) override;
@@ -29,6 +31,15 @@ public:
     ScheduleTable Take();
 
 protected:
+    enum class Contents
+    {
+        Kept,
+        Dropped
+    };
+
+    /// With its contents dropped it only counts rows and cells.
+    explicit ScheduleReader(Contents contents) : m_contents(contents) {}
+
     /// Which cell of the table the element that was opened last is; nothing when it is none.
     std::optional<Sheet::TablePlace> OpenCell() const;
 
@@ -65,8 +76,10 @@ private:
     void OpenValue(const CellAttributes& attributes);
     void EndTextOf(Open& element);
     void AddEmptyCell(Open& row);
+    void PlaceCell(int row, int slot, std::string_view text, CellStyle style);
     RowAttributes& AttributesOf(int row);
 
+    Contents m_contents = Contents::Kept;
     std::vector<Open> m_open{1}; ///< at the bottom the document itself
     std::vector<Value> m_values; ///< of the open cells: a cell may hold a table with cells of its own
     std::size_t m_valueCount = 0;

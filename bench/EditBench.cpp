@@ -1,0 +1,156 @@
+// Editing a cell in a small and in a large table, opening a document for its first edit beside loading it, and ticking
+// and collecting ten times as many tags.
+
+#include "Documents.h"
+#include "Quiet.h"
+#include "framework/IMsgRouter.h"
+#include "grid/CSchedule.h"
+#include "tools/schedule/ctlSchedule.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+
+#include <benchmark/benchmark.h>
+
+namespace schedules::bench {
+
+namespace {
+
+/// A host that has no texts and answers nothing.
+class SilentHost : public IMsgRouter
+{
+public:
+    QString Send(const Envelope& envelope) override
+    {
+        const auto message = ParseMessage(envelope.body.toString());
+        return message && message->name == QLatin1String("GetResourceModule") ? QStringLiteral("0") : QString();
+    }
+};
+
+QString EditableDocument(TableSize size)
+{
+    return ScheduleDocument(size).replace(QStringLiteral("<TD>"), QStringLiteral("<TD AllowEdit=\"-1\">"));
+}
+
+QString SelectionDocument(int tags)
+{
+    QString document = QStringLiteral("<TABLE><TR><TH/><TH>Tag</TH><TH>Select</TH></TR>");
+    for (int tag = 1; tag <= tags; ++tag)
+        document += QStringLiteral("<TR><TH>%1</TH><TD>P-%1</TD><TD dataType='CHECKBOX' visible='-1'/></TR>").arg(tag);
+    return document + QStringLiteral("</TABLE>");
+}
+
+/// The view on a document, shown.
+struct ShownSchedule
+{
+    ShownSchedule(int viewType, const QString& xml)
+    {
+        view.setProperty("ViewType", viewType);
+        view.IToolUI_Initialize(&host, QStringLiteral("Host"));
+        view.IToolUI_XML(xml);
+        view.IToolUI_Activate();
+        view.resize(1200, 800);
+        view.show();
+    }
+
+    void Press(const char* child, Qt::Key key)
+    {
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+        QCoreApplication::sendEvent(view.findChild<QWidget*>(QLatin1String(child)), &press);
+    }
+
+    void Edit(Cell cell, const QString& text)
+    {
+        view.ShownSheet()->SetActiveCell(cell);
+        Press("vaSpread1", Qt::Key_F2);
+        view.findChild<QLineEdit*>(QStringLiteral("txtEditCell"))->setText(text);
+        Press("txtEditCell", Qt::Key_Return);
+    }
+
+    SilentHost host;
+    Quiet quiet;
+    ctlSchedule view{&quiet};
+};
+
+/// As many cells in a table of any size, all over it: a user edits some cells, not all of them.
+std::vector<Cell> EditedCells(const Sheet& sheet)
+{
+    constexpr std::size_t kCount = 400;
+    const std::vector<Cell> editable =
+        sheet.CellsWith([](CellStyle style) { return style.allowEdit && style.type == CellType::StaticText; });
+    std::vector<Cell> cells;
+    for (std::size_t at = 0; at < kCount; ++at)
+        cells.push_back(editable[at * editable.size() / kCount]);
+    return cells;
+}
+
+void EditCells(benchmark::State& state)
+{
+    ShownSchedule shown(1, EditableDocument({static_cast<int>(state.range(0)), static_cast<int>(state.range(1))}));
+    const std::vector<Cell> cells = EditedCells(*shown.view.ShownSheet());
+    shown.Edit(cells.front(), QStringLiteral("opened"));
+    std::size_t at = 0;
+    for (auto _ : state) {
+        at = (at + 179) % cells.size();
+        shown.Edit(cells[at], QString::number(at));
+    }
+}
+
+void LoadDocument(benchmark::State& state)
+{
+    const QString xml = EditableDocument({1000, 1000});
+    Quiet quiet;
+    for (auto _ : state) {
+        Sheet sheet;
+        CSchedule engine(quiet);
+        engine.SetSched(&sheet);
+        benchmark::DoNotOptimize(engine.LoadScheduleData(xml));
+    }
+}
+
+void OpenDocument(benchmark::State& state)
+{
+    const QString xml = EditableDocument({1000, 1000});
+    for (auto _ : state) {
+        HeldDocument document;
+        document.Hold(xml);
+        benchmark::DoNotOptimize(document.SetCellText({500, 500}, QStringLiteral("x")));
+    }
+}
+
+/// Ticks all tags through the grid's menu, then collects them.
+void TickAndCollect(benchmark::State& state)
+{
+    ShownSchedule shown(2, SelectionDocument(static_cast<int>(state.range(0))));
+    shown.view.ab_ToolClick(QStringLiteral("btnTranspose"));
+    auto* grid = shown.view.findChild<QWidget*>(QStringLiteral("vaSpread1"));
+    auto* proceed = shown.view.findChild<QPushButton*>(QStringLiteral("cmdContinue"));
+    for (auto _ : state) {
+        QMetaObject::invokeMethod(grid, "customContextMenuRequested", Q_ARG(QPoint, QPoint(200, 200)));
+        auto* menu = shown.view.findChild<QMenu*>(QStringLiteral("mnuGrid"));
+        menu->actions().at(2)->trigger(); // inverts
+        delete menu;
+        proceed->click();
+    }
+}
+
+const bool kRegistered = [] {
+    const auto add = [](const char* name, void (*run)(benchmark::State&), std::vector<std::int64_t> arguments = {}) {
+        return benchmark::RegisterBenchmark(name, run)->Args(arguments)->Unit(benchmark::kMicrosecond);
+    };
+    add("edit a cell/own", EditCells, {60, 20}); // of 1,200 cells
+    add("edit a cell/of 1,000,000 cells", EditCells, {1000, 1000});
+    add("open for editing/own", OpenDocument);
+    add("open for editing/loading it", LoadDocument);
+    add("tick and collect/own", TickAndCollect, {10'000});
+    add("tick and collect/ten times as many tags", TickAndCollect, {100'000});
+    return true;
+}();
+
+} // namespace
+
+} // namespace schedules::bench
