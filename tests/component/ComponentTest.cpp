@@ -79,6 +79,11 @@ QStringList ExportedNames()
 
 } // namespace
 
+TEST_F(ComponentTest, CarriesItsIcons)
+{
+    EXPECT_TRUE(QFile::exists(QStringLiteral(":/schedules/icons/print.svg")));
+}
+
 TEST_F(ComponentTest, TellsItsVersionAndItsTools)
 {
     EXPECT_TRUE(QRegularExpression(QStringLiteral("^\\d+\\.\\d+\\.\\d+$")).match(factory->Version()).hasMatch());
