@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
+#include <optional>
 #include <variant>
 
 namespace schedules::host {
@@ -23,6 +25,14 @@ enum class View
     Selector = 2
 };
 
+/// Which colours widgets have.
+enum class Palette
+{
+    Desktop,
+    Light,
+    Dark
+};
+
 /// How a table is shown.
 struct ViewOptions
 {
@@ -33,16 +43,48 @@ struct ViewOptions
     bool operator==(const ViewOptions&) const = default;
 };
 
+/// A text for a cell, whose numbers are those that `dump` prints.
+struct CellText
+{
+    int column = 0;
+    int row = 0;
+    QString text;
+
+    bool operator==(const CellText&) const = default;
+};
+
+struct SortColumn
+{
+    int column = 0;
+    bool descending = false;
+
+    bool operator==(const SortColumn&) const = default;
+};
+
+/// What is done to a table as a user does it, in this order, after it was loaded and transposed.
+struct UserActions
+{
+    QList<CellText> edits;
+    QStringList ticks; ///< identifiers of tags
+    std::optional<SortColumn> sort;
+    bool pressContinue = false;
+    QString save; ///< the file for what a press on Save hands over; empty: Save is not pressed
+
+    bool operator==(const UserActions&) const = default;
+};
+
 /// What the program was asked to do.
 struct CommandLine
 {
     Form form = Form::Window;
-    QString file; ///< empty: the sample
+    QString file; ///< empty: the user's copy of the sample
     ViewOptions view;
+    UserActions actions;
     QString messages; ///< the file that every message is appended to; empty for none
     QString png;
     QString title;
     QString language = QStringLiteral("en");
+    Palette palette = Palette::Desktop;
 
     bool operator==(const CommandLine&) const = default;
 };

@@ -17,7 +17,11 @@ struct Crossing
     Envelope envelope;
     std::optional<Message> message; ///< nothing when the body is no message
     QString reply;
+    QString failure; ///< why there is no reply, when delivering the message has failed
 };
+
+/// The text of a message's parameter; empty when it has none of that name.
+QString ParameterText(const Message& message, const QString& name);
 
 /// The crossing as an XML document on one line, without a line break at its end.
 QString LogLine(const Crossing& crossing);

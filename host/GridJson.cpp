@@ -39,6 +39,17 @@ QByteArray Hidden(const Sheet& sheet, int last)
     return '[' + hidden.join(',') + ']';
 }
 
+/// The rows from top to bottom, when they are shown in an order of their own.
+QByteArray RowOrderJson(const Axis& rows)
+{
+    if (!rows.Ordered())
+        return {};
+    QByteArrayList order;
+    for (int position = 1; position <= rows.Count(); ++position)
+        order.append(QByteArray::number(rows.ItemAt(position)));
+    return ",\n\"rowOrder\":[" + order.join(',') + ']';
+}
+
 /// Nothing for a cell that is empty and looks like any other.
 QByteArray CellJson(const Sheet& sheet, Cell cell)
 {
@@ -75,7 +86,8 @@ QByteArray GridJson(const Sheet& sheet, int orientation, bool transposed)
            ",\"rows\":" + QByteArray::number(sheet.RowCount()) + ",\"orientation\":" + QByteArray::number(orientation) +
            ",\"transposed\":" + Flag(transposed) + ",\n\"columnWidths\":" + Widths(sheet) +
            ",\n\"hiddenColumns\":" + Hidden<Column>(sheet, sheet.ColumnCount()) +
-           ",\n\"hiddenRows\":" + Hidden<Row>(sheet, sheet.RowCount()) + ",\n\"cells\":" + Cells(sheet) + "}\n";
+           ",\n\"hiddenRows\":" + Hidden<Row>(sheet, sheet.RowCount()) + RowOrderJson(sheet.Rows()) +
+           ",\n\"cells\":" + Cells(sheet) + "}\n";
 }
 
 } // namespace schedules::host

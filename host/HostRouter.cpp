@@ -1,5 +1,6 @@
 #include "host/HostRouter.h"
 
+#include <exception>
 #include <utility>
 
 namespace schedules::host {
@@ -9,19 +10,32 @@ void HostRouter::Answers(const QString& name, Answer answer)
     m_answers.insert(name, std::move(answer));
 }
 
+void HostRouter::NoLongerAnswers(const QString& name)
+{
+    m_answers.remove(name);
+}
+
 QString HostRouter::Send(const Envelope& envelope)
 {
-    Crossing crossing{QDateTime::currentDateTime(), envelope, ParseMessage(envelope.body.toString()), {}};
-    if (crossing.message)
-        crossing.reply = ReplyTo(*crossing.message);
+    Crossing crossing{QDateTime::currentDateTime(), envelope, ParseMessage(envelope.body.toString()), {}, {}};
+    try {
+        Deliver(crossing);
+    } catch (const std::exception& error) {
+        crossing.failure = QString::fromUtf8(error.what());
+        Q_EMIT Crossed(crossing);
+        throw;
+    }
     Q_EMIT Crossed(crossing);
     return crossing.reply;
 }
 
-QString HostRouter::ReplyTo(const Message& message) const
+void HostRouter::Deliver(Crossing& crossing) const
 {
-    const auto answer = m_answers.find(message.name);
-    return answer == m_answers.end() ? QString() : (*answer)(message);
+    if (!crossing.message)
+        return;
+    const auto answer = m_answers.find(crossing.message->name);
+    if (answer != m_answers.end())
+        crossing.reply = (*answer)(*crossing.message);
 }
 
 } // namespace schedules::host

@@ -22,7 +22,11 @@ public:
     using Answer = std::function<QString(const Message&)>;
 
     /// Messages of that name get the reply that `answer` gives. A message that nobody answers gets an empty reply.
+    /// When `answer` throws, the send has failed.
     void Answers(const QString& name, Answer answer);
+
+    /// Messages of that name are no longer answered.
+    void NoLongerAnswers(const QString& name);
 
     QString Send(const Envelope& envelope) override;
 
@@ -30,7 +34,7 @@ Q_SIGNALS:
     void Crossed(const schedules::host::Crossing& crossing);
 
 private:
-    QString ReplyTo(const Message& message) const;
+    void Deliver(Crossing& crossing) const;
 
     QHash<QString, Answer> m_answers;
 };

@@ -6,11 +6,10 @@
 #include "host/HostRouter.h"
 #include "host/MessageDock.h"
 #include "host/ScheduleTool.h"
-#include "host/XmlFile.h"
 
 #include <QActionGroup>
+#include <QCloseEvent>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QScreen>
@@ -22,19 +21,38 @@ namespace {
 
 constexpr QSize kPreferredSize{1440, 900};
 
-QString ParameterText(const Message& message, const QString& name)
+const QString kSaveMessage = QStringLiteral("UpdateTagScheduleData");
+
+QString Counted(qsizetype count, const QString& one, const QString& many)
 {
-    for (const Parameter& parameter : message.parameters.Items()) {
-        if (parameter.name == name)
-            return parameter.value.toString();
-    }
+    return count == 1 ? one : many.arg(count);
+}
+
+QString PickedTags(const Message& message)
+{
+    const auto count = ParameterText(message, QStringLiteral("SelectedTags")).count(QLatin1String("<Tag>"));
+    return Counted(count, MainWindow::tr("1 tag was picked"), MainWindow::tr("%1 tags were picked"));
+}
+
+/// What the user is told of a message; nothing for most of them.
+QString StatusText(const Crossing& crossing)
+{
+    if (!crossing.failure.isEmpty() || !crossing.message)
+        return crossing.failure;
+    const Message& message = *crossing.message;
+    if (message.name == QLatin1String("ErrorMessage"))
+        return ParameterText(message, QStringLiteral("ErrorDescription"));
+    if (message.name == QLatin1String("ContinueButton"))
+        return PickedTags(message);
+    if (message.name == QLatin1String("PrintSelections"))
+        return MainWindow::tr("%1 to be printed").arg(PickedTags(message));
     return {};
 }
 
 } // namespace
 
-MainWindow::MainWindow(HostRouter& router, const ViewOptions& options)
-    : m_router(router), m_options(options), m_messages(new MessageDock(this))
+MainWindow::MainWindow(HostRouter& router, const ViewOptions& options, const Answering& answering)
+    : m_router(router), m_options(options), m_answering(answering), m_messages(new MessageDock(this))
 {
     setWindowTitle(tr("Equipment Schedules"));
     HoldCentralPlace();
@@ -44,10 +62,14 @@ MainWindow::MainWindow(HostRouter& router, const ViewOptions& options)
     BuildHelpMenu();
     statusBar();
     connect(&m_router, &HostRouter::Crossed, this, &MainWindow::OnCrossed);
+    m_router.Answers(kSaveMessage, [this](const Message& message) { return SaveTable(message); });
     resize(kPreferredSize.boundedTo(screen()->availableSize() * 9 / 10));
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow()
+{
+    m_router.NoLongerAnswers(kSaveMessage);
+}
 
 /// Keeps the dock from taking the room of the tool that is to come.
 void MainWindow::HoldCentralPlace()
@@ -69,19 +91,26 @@ void MainWindow::BuildFileMenu()
 void MainWindow::BuildViewMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&View"));
-    auto* choices = new QActionGroup(this);
-    AddViewChoice(*menu, *choices, tr("&Schedule"), View::Schedule);
-    AddViewChoice(*menu, *choices, tr("Se&lector"), View::Selector);
+    m_views = new QActionGroup(this);
+    AddViewChoice(*menu, tr("&Schedule"), View::Schedule);
+    AddViewChoice(*menu, tr("Se&lector"), View::Selector);
+    CheckViewChoice();
     menu->addSeparator();
     menu->addAction(m_messages->toggleViewAction());
 }
 
-void MainWindow::AddViewChoice(QMenu& menu, QActionGroup& choices, const QString& text, View view)
+void MainWindow::AddViewChoice(QMenu& menu, const QString& text, View view)
 {
-    QAction* action = choices.addAction(menu.addAction(text));
+    QAction* action = m_views->addAction(menu.addAction(text));
     action->setCheckable(true);
-    action->setChecked(m_options.view == view);
+    action->setData(static_cast<int>(view));
     connect(action, &QAction::triggered, this, [this, view] { ShowView(view); });
+}
+
+void MainWindow::CheckViewChoice()
+{
+    for (QAction* action : m_views->actions())
+        action->setChecked(action->data().toInt() == static_cast<int>(m_options.view));
 }
 
 void MainWindow::BuildHelpMenu()
@@ -91,23 +120,78 @@ void MainWindow::BuildHelpMenu()
 
 void MainWindow::Open(const QString& fileName)
 {
+    if (MayReplace())
+        Show(fileName, m_options);
+}
+
+bool MainWindow::MayReplace()
+{
+    if (!m_tool)
+        return true;
+    m_tool->CommitEdit();
+    if (!m_tool->Dirty())
+        return true;
+    switch (m_answering.unsaved(*this, m_file->ShortName())) {
+    case UnsavedValues::Save:
+        m_tool->Save();
+        return !m_tool->Dirty();
+    case UnsavedValues::Discard:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool MainWindow::Show(const QString& fileName, const ViewOptions& options)
+{
     try {
-        const QString xml = ReadXmlFile(fileName);
-        auto tool = std::make_unique<ScheduleTool>(m_router, nullptr, m_options);
-        setCentralWidget(&tool->Widget());
-        m_tool = std::move(tool);
-        m_fileName = fileName;
-        setWindowTitle(tr("%1 - Equipment Schedules").arg(QFileInfo(fileName).fileName()));
-        setWindowFilePath(fileName);
-        m_tool->Load(xml);
+        ShowTable(TableFile(fileName), options);
+        return true;
     } catch (const HostError& error) {
         QMessageBox::warning(this, windowTitle(), error.Line());
+        return false;
     }
+}
+
+void MainWindow::ShowTable(TableFile file, const ViewOptions& options)
+{
+    auto tool = std::make_unique<ScheduleTool>(m_router, m_answering.tool, options);
+    setCentralWidget(&tool->Widget());
+    m_tool = std::move(tool);
+    m_file = std::move(file);
+    m_unloaded = false;
+    setWindowTitle(tr("%1 - Equipment Schedules").arg(m_file->ShortName()));
+    setWindowFilePath(m_file->Name());
+    m_tool->Load(m_file->Xml());
+}
+
+QString MainWindow::SaveTable(const Message& message)
+{
+    if (!m_file)
+        return {};
+    const int cells = m_file->Save(ParameterText(message, QStringLiteral("ScheduleXml")));
+    statusBar()->showMessage(
+        Counted(cells, tr("Saved 1 changed cell to %1"), tr("Saved %1 changed cells to %2")).arg(m_file->ShortName()));
+    return {};
+}
+
+/// Whether the window stays, because the view has yet to finish or its user wants it to. A view that did nothing, and
+/// has nothing to save, has failed.
+bool MainWindow::ViewKeepsOpen()
+{
+    if (m_unloaded || !m_tool || !m_tool->PressCancel())
+        return false;
+    return m_unloaded || m_tool->Dirty();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(!ViewKeepsOpen());
 }
 
 void MainWindow::AskFile()
 {
-    const QString start = m_fileName.isEmpty() ? DataFolder(QStringLiteral("samples")) : m_fileName;
+    const QString start = m_file ? m_file->Name() : DataFolder(QStringLiteral("samples"));
     const QString chosen =
         QFileDialog::getOpenFileName(this, tr("Open a schedule"), start, tr("Schedule tables (*.xml);;All files (*)"));
     if (!chosen.isEmpty())
@@ -116,14 +200,17 @@ void MainWindow::AskFile()
 
 void MainWindow::Reload()
 {
-    if (!m_fileName.isEmpty())
-        Open(m_fileName);
+    if (m_file)
+        Open(QString(m_file->Name()));
 }
 
 void MainWindow::ShowView(View view)
 {
-    m_options.view = view;
-    Reload();
+    ViewOptions options = m_options;
+    options.view = view;
+    if (!m_file || (MayReplace() && Show(QString(m_file->Name()), options)))
+        m_options = options;
+    CheckViewChoice();
 }
 
 void MainWindow::ShowAbout()
@@ -137,14 +224,13 @@ void MainWindow::ShowAbout()
 void MainWindow::OnCrossed(const Crossing& crossing)
 {
     m_messages->Append(crossing);
-    if (!crossing.message)
-        return;
-    const Message& message = *crossing.message;
-    if (message.name == QLatin1String("ErrorMessage"))
-        statusBar()->showMessage(ParameterText(message, QStringLiteral("ErrorDescription")));
+    if (const QString status = StatusText(crossing); !status.isEmpty())
+        statusBar()->showMessage(status);
     // The tool is still at work inside its own click, so the window goes when that is over.
-    if (message.name == QLatin1String("UnloadSchedule"))
+    if (crossing.message && crossing.message->name == QLatin1String("UnloadSchedule")) {
+        m_unloaded = true;
         QMetaObject::invokeMethod(this, &MainWindow::close, Qt::QueuedConnection);
+    }
 }
 
 } // namespace schedules::host

@@ -1,13 +1,21 @@
 #pragma once
 
 #include "host/CommandLine.h"
+#include "host/TableFile.h"
+#include "host/UnsavedValues.h"
 
 #include <QMainWindow>
 
 #include <memory>
+#include <optional>
 
 class QActionGroup;
 class QMenu;
+
+namespace schedules {
+class UserInterface;
+struct Message;
+} // namespace schedules
 
 namespace schedules::host {
 
@@ -16,35 +24,58 @@ class MessageDock;
 class ScheduleTool;
 struct Crossing;
 
-/// A window around one schedule view, with the messages that it exchanges with this host.
+/// Who answers where a window waits for its user.
+struct Answering
+{
+    UserInterface* tool = nullptr; ///< the message boxes of the view; with none they are the desktop's
+    UnsavedQuestion unsaved = AskAboutUnsaved;
+};
+
+/// A window around one schedule view, with the messages that it exchanges with this host. What the view saves goes into
+/// the file that is shown.
+///
+/// Closing the window presses the view's last button, so that the view asks about values that were not saved; the
+/// window goes when the view has told to unload it. A view that cannot be asked does not keep it.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
     /// The router must outlive the window.
-    MainWindow(HostRouter& router, const ViewOptions& options);
+    MainWindow(HostRouter& router, const ViewOptions& options, const Answering& answering = {});
     ~MainWindow() override;
 
-    /// Shows a file, in a view made anew. A file that cannot be read is told in a message box, and the window stays as
-    /// it was.
+    /// Shows a file, in a view made anew. Before that the user is asked about edited values that are not saved. A file
+    /// that cannot be read is told in a message box; the window then stays as it was.
     void Open(const QString& fileName);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     void HoldCentralPlace();
     void BuildFileMenu();
     void BuildViewMenu();
     void BuildHelpMenu();
-    void AddViewChoice(QMenu& menu, QActionGroup& choices, const QString& text, View view);
+    void AddViewChoice(QMenu& menu, const QString& text, View view);
+    void CheckViewChoice();
     void AskFile();
     void Reload();
     void ShowView(View view);
     void ShowAbout();
+    bool MayReplace();
+    bool Show(const QString& fileName, const ViewOptions& options);
+    void ShowTable(TableFile file, const ViewOptions& options);
+    bool ViewKeepsOpen();
+    QString SaveTable(const Message& message);
     void OnCrossed(const Crossing& crossing);
 
     HostRouter& m_router;
     ViewOptions m_options;
-    QString m_fileName;
+    Answering m_answering;
+    std::optional<TableFile> m_file;
+    bool m_unloaded = false; ///< the view has told to unload it
+    QActionGroup* m_views = nullptr;
     MessageDock* m_messages;
     std::unique_ptr<ScheduleTool> m_tool;
 };

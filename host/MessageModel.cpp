@@ -35,7 +35,7 @@ QString FieldText(const Crossing& crossing, int field)
     case MessageModel::Parameters:
         return ParametersText(crossing);
     default:
-        return crossing.reply;
+        return crossing.failure.isEmpty() ? crossing.reply : MessageModel::tr("failed: %1").arg(crossing.failure);
     }
 }
 

@@ -6,6 +6,7 @@
 #include "host/HostRouter.h"
 #include "spread/Sheet.h"
 
+#include <QAbstractButton>
 #include <QAction>
 
 namespace schedules::host {
@@ -29,6 +30,7 @@ ScheduleTool::ScheduleTool(IMsgRouter& router, UserInterface* userInterface, con
 {
     m_widget->setProperty("ViewType", static_cast<int>(options.view));
     m_widget->setProperty("SelectAllTags", options.selectAll);
+    m_widget->setProperty("ShowPrintButtonOnUnitSelector", true);
     m_tool->IToolUI_Initialize(&router, kOwner);
 }
 
@@ -43,17 +45,46 @@ void ScheduleTool::Load(const QString& xml)
     m_tool->IToolUI_Activate();
 }
 
-void ScheduleTool::Transpose()
+void ScheduleTool::Trigger(const char* button)
 {
-    auto* action = m_widget->findChild<QAction*>(QStringLiteral("btnTranspose"));
+    auto* action = m_widget->findChild<QAction*>(QLatin1String(button));
     if (!action)
-        throw HostError(QStringLiteral("this view cannot be transposed"));
+        throw HostError(QStringLiteral("this view has no button %1").arg(QLatin1String(button)));
     action->trigger();
 }
 
-const Sheet& ScheduleTool::Grid() const
+void ScheduleTool::Transpose()
 {
-    const auto* sheet = m_widget->property("sheet").value<Sheet*>();
+    Trigger("btnTranspose");
+}
+
+void ScheduleTool::Save()
+{
+    Trigger("btnSaveTag");
+}
+
+void ScheduleTool::CommitEdit()
+{
+    m_tool->IToolUI_Deactivate(false);
+}
+
+bool ScheduleTool::Dirty() const
+{
+    return m_widget->property("TagDataDirty").toBool();
+}
+
+bool ScheduleTool::PressCancel()
+{
+    auto* cancel = m_widget->findChild<QAbstractButton*>(QStringLiteral("cmdCancel"));
+    if (!cancel || !cancel->isEnabled())
+        return false;
+    cancel->click();
+    return true;
+}
+
+Sheet& ScheduleTool::Grid() const
+{
+    auto* sheet = m_widget->property("sheet").value<Sheet*>();
     if (!sheet)
         throw HostError(QStringLiteral("the schedule view has no grid"));
     return *sheet;

@@ -29,14 +29,28 @@ public:
     /// Does what the button Transpose does. Throws `HostError` while there is no such button.
     void Transpose();
 
+    /// Does what the button Save does; nothing while it is not enabled. Throws `HostError` as well.
+    void Save();
+
+    /// Ends an edit that is open, keeping its value.
+    void CommitEdit();
+
+    /// Whether there are edited values that have not been saved.
+    bool Dirty() const;
+
+    /// Presses the last button of the view, Cancel or Close. False when it has none that can be pressed.
+    bool PressCancel();
+
     QWidget& Widget() const { return *m_widget; }
-    const Sheet& Grid() const;
+    Sheet& Grid() const;
 
     /// The engine's settings, as the tool shows them to its host.
     int Orientation() const;
     bool Transposed() const;
 
 private:
+    void Trigger(const char* button);
+
     std::unique_ptr<QWidget> m_widget;
     IToolUI* m_tool;
 };

@@ -1,5 +1,6 @@
 #include "host/XmlFile.h"
 
+#include "host/FileReplacement.h"
 #include "host/HostError.h"
 
 #include <QFile>
@@ -92,13 +93,20 @@ private:
     iconv_t m_converter;
 };
 
-QByteArray DeclaredEncoding(QByteArrayView bytes)
+constexpr qsizetype kLongestDeclaration = 1024;
+
+/// Where a text declares its encoding: the first part that is captured is the name.
+QRegularExpressionMatch DeclarationIn(const QString& head)
 {
     static const QRegularExpression declaration(QStringLiteral(
         R"re(^<\?xml\s+version\s*=\s*(?:"[^"]*"|'[^']*')\s+encoding\s*=\s*["']([A-Za-z][A-Za-z0-9._-]*)["'])re"));
-    constexpr qsizetype kLongestDeclaration = 1024;
+    return declaration.match(head);
+}
+
+QByteArray DeclaredEncoding(QByteArrayView bytes)
+{
     const auto head = QString::fromLatin1(bytes.first(qMin(bytes.size(), kLongestDeclaration)));
-    return declaration.match(head).captured(1).toLatin1();
+    return DeclarationIn(head).captured(1).toLatin1();
 }
 
 QString DecodedAsDeclared(QByteArrayView bytes)
@@ -129,6 +137,21 @@ QString ReadXmlFile(const QString& fileName)
     if (file.error() != QFileDevice::NoError)
         throw HostError(QStringLiteral("cannot read %1: %2").arg(fileName, file.errorString()));
     return DecodedXml(bytes);
+}
+
+QByteArray EncodedXml(const QString& text)
+{
+    const auto declaration = DeclarationIn(text.left(kLongestDeclaration));
+    constexpr QLatin1String kUtf8("UTF-8");
+    if (!declaration.hasMatch() || declaration.captured(1).compare(kUtf8, Qt::CaseInsensitive) == 0)
+        return text.toUtf8();
+    QString renamed = text;
+    return renamed.replace(declaration.capturedStart(1), declaration.capturedLength(1), kUtf8).toUtf8();
+}
+
+void WriteXmlFile(const QString& fileName, const QString& text)
+{
+    ReplaceFile(fileName, EncodedXml(text));
 }
 
 } // namespace schedules::host

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
 
@@ -14,5 +15,11 @@ QString DecodedXml(QByteArrayView bytes);
 
 /// The text of an XML file. Throws `HostError` when the file cannot be read.
 QString ReadXmlFile(const QString& fileName);
+
+/// A document in UTF-8, as it stands but for a declaration that names another encoding: it names UTF-8 then.
+QByteArray EncodedXml(const QString& text);
+
+/// Writes a document as `EncodedXml`, in place of the file. Throws `HostError`; the file is then as it was.
+void WriteXmlFile(const QString& fileName, const QString& text);
 
 } // namespace schedules::host

@@ -59,6 +59,54 @@ TEST(CommandLine, RenderTakesAPictureAndATitleBeside)
         (CommandLine{.form = Form::Render, .file = "a.xml", .view = {.transpose = true}, .png = "p", .title = "T t"}));
 }
 
+TEST(CommandLine, ScheduleViewTakesEditsASortAndASave)
+{
+    const UserActions actions{.edits = {{1, 2, "a=b,c"}, {10, 0, ""}}, .sort = SortColumn{3, true}, .save = "out.xml"};
+    EXPECT_EQ(
+        Parsed({"dump", "a.xml", "--edit", "1,2=a=b,c", "--sort", "3:desc", "--edit", "10,0=", "--save", "out.xml"}),
+        (CommandLine{.form = Form::Dump, .file = "a.xml", .actions = actions}));
+    EXPECT_EQ(Parsed({"dump", "a.xml", "--sort", "3"}).actions.sort, (SortColumn{3, false}));
+    EXPECT_EQ(Parsed({"dump", "a.xml", "--edit", "1,1=a\nb"}).actions.edits, (QList<CellText>{{1, 1, "a\nb"}}));
+}
+
+TEST(CommandLine, SelectorViewTakesTicksAndContinue)
+{
+    const UserActions actions{.ticks = {"P-1", "P-2"}, .pressContinue = true};
+    EXPECT_EQ(
+        Parsed({"render", "a.xml", "--view", "selector", "--tick", "P-1", "--continue", "--tick", "P-2"}),
+        (CommandLine{.form = Form::Render, .file = "a.xml", .view = {.view = View::Selector}, .actions = actions}));
+}
+
+TEST(CommandLine, EveryFormTakesAPalette)
+{
+    EXPECT_EQ(Parsed({}).palette, Palette::Desktop);
+    EXPECT_EQ(Parsed({"--palette", "desktop"}).palette, Palette::Desktop);
+    EXPECT_EQ(Parsed({"--palette", "light"}).palette, Palette::Light);
+    EXPECT_EQ(Parsed({"render", "a.xml", "--palette", "dark"}).palette, Palette::Dark);
+    EXPECT_EQ(Refused({"--palette", "blue"}), "--palette must be one of: desktop, light, dark");
+    EXPECT_EQ(Parsed({"dump", "a.xml", "--palette", "dark"}).palette, Palette::Dark) << "for scripts that do both";
+}
+
+TEST(CommandLine, AnEditOrASortThatIsNoneIsRefused)
+{
+    for (const char* edit : {"", "1", "1,2", "1=x", ",2=x", "-1,2=x", "1,a=x", " 1,2=x", "1234567890,1=x"})
+        EXPECT_EQ(Refused({"dump", "a.xml", "--edit", edit}),
+                  QStringLiteral("--edit must be COLUMN,ROW=TEXT, not '%1'").arg(edit).simplified());
+    for (const char* sort : {"", "a", "-1", "1:", "1:asc", "1:desc:"})
+        EXPECT_EQ(Refused({"dump", "a.xml", "--sort", sort}),
+                  QStringLiteral("--sort must be COLUMN or COLUMN:desc, not '%1'").arg(sort));
+}
+
+TEST(CommandLine, AnOptionOfTheOtherViewIsRefused)
+{
+    EXPECT_EQ(Refused({"dump", "a.xml", "--tick", "P-1"}), "--tick does not belong to the schedule view");
+    EXPECT_EQ(Refused({"dump", "a.xml", "--continue"}), "--continue does not belong to the schedule view");
+    EXPECT_EQ(Refused({"dump", "a.xml", "--view", "selector", "--edit", "1,1=a"}),
+              "--edit does not belong to the selector view");
+    EXPECT_EQ(Refused({"dump", "a.xml", "--view", "selector", "--save", "b"}),
+              "--save does not belong to the selector view");
+}
+
 TEST(CommandLine, OptionsMayComeFirst)
 {
     EXPECT_EQ(Parsed({"--transpose", "dump", "a.xml"}),
@@ -93,6 +141,9 @@ TEST(CommandLine, AnOptionOfAnotherCommandIsRefused)
 {
     EXPECT_EQ(Refused({"a.xml", "--transpose"}), "--transpose does not belong to this command");
     EXPECT_EQ(Refused({"dump", "a.xml", "--png", "p"}), "--png does not belong to this command");
+    for (const char* option : {"--edit", "--tick", "--sort", "--save"})
+        EXPECT_EQ(Refused({"a.xml", option, "1"}), QStringLiteral("%1 does not belong to this command").arg(option));
+    EXPECT_EQ(Refused({"a.xml", "--continue"}), "--continue does not belong to this command");
     EXPECT_EQ(Refused({"dump", "a.xml", "--title", "t"}), "--title does not belong to this command");
 }
 
@@ -114,6 +165,7 @@ TEST(CommandLine, AFileNameMustNotBeEmpty)
 {
     EXPECT_EQ(Refused({"a.xml", "--messages", ""}), "--messages needs a file name");
     EXPECT_EQ(Refused({"render", "a.xml", "--png", ""}), "--png needs a file name");
+    EXPECT_EQ(Refused({"dump", "a.xml", "--save", ""}), "--save needs a file name");
 }
 
 TEST(CommandLine, WrongUsageIsToldInOneLine)
@@ -124,8 +176,9 @@ TEST(CommandLine, WrongUsageIsToldInOneLine)
 
 TEST(CommandLine, HelpNamesEveryOption)
 {
-    for (const char* option : {"--view", "--select-all", "--transpose", "--png", "--title", "--messages", "--language",
-                               "--help", "--version"})
+    for (const char* option :
+         {"--view", "--select-all", "--transpose", "--png", "--title", "--messages", "--language", "--edit", "--tick",
+          "--sort", "--continue", "--save", "--palette", "--help", "--version"})
         EXPECT_TRUE(HelpText().contains(QLatin1String(option))) << option;
 }
 

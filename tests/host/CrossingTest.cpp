@@ -13,7 +13,8 @@ Crossing CrossingOf(const Message& message, const QString& reply = {})
     return {QDateTime::currentDateTime(),
             {QStringLiteral("ctlSchedule"), QStringLiteral("the <host>"), MessageKind::Request, message.Text()},
             message,
-            reply};
+            reply,
+            {}};
 }
 
 Message MessageWith(const QString& value)
@@ -51,6 +52,22 @@ TEST(CrossingLine, IsOneLineWhateverTheValues)
     }
     EXPECT_FALSE(reader.hasError()) << qPrintable(reader.errorString());
     EXPECT_EQ(texts, (QStringList{value, value}));
+}
+
+TEST(CrossingLine, AFailureStandsInPlaceOfTheReply)
+{
+    Crossing crossing = CrossingOf({});
+    crossing.message.reset();
+    crossing.envelope.body = QString();
+    crossing.failure = QStringLiteral("no <room>");
+    EXPECT_EQ(LogLine(crossing), "<sent from=\"ctlSchedule\" to=\"the &lt;host&gt;\" kind=\"2\">"
+                                 "<failure>no &lt;room&gt;</failure></sent>");
+}
+
+TEST(ParameterText, IsTheValueOfTheParameterOfThatName)
+{
+    EXPECT_EQ(ParameterText(MessageWith(QStringLiteral("ctl")), QStringLiteral("Form")), "ctl");
+    EXPECT_EQ(ParameterText(MessageWith(QStringLiteral("ctl")), QStringLiteral("form")), QString());
 }
 
 TEST(CrossingLine, ABodyThatIsNoMessageStandsThereAsText)

@@ -46,6 +46,14 @@ TEST_F(GridJsonTest, AnEmptyGridHasNoCells)
     EXPECT_EQ(Json(), WithCells("[]"));
 }
 
+TEST_F(GridJsonTest, RowsThatAreShownInAnOrderOfTheirOwnAreListed)
+{
+    sheet.SetSize(2, 3);
+    EXPECT_EQ(Json().find("rowOrder"), std::string::npos);
+    sheet.SetRowOrder({3, 1, 2});
+    EXPECT_NE(Json().find("\n\"hiddenRows\":[],\n\"rowOrder\":[3,1,2],\n\"cells\":"), std::string::npos) << Json();
+}
+
 TEST_F(GridJsonTest, CellsComeRowByRowWithTheirHeaders)
 {
     sheet.SetText(At(1, 1), QStringLiteral("d"));

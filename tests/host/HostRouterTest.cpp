@@ -1,5 +1,7 @@
 #include "host/HostRouter.h"
 
+#include "host/HostError.h"
+
 #include <gtest/gtest.h>
 
 namespace schedules::host {
@@ -51,6 +53,22 @@ TEST_F(HostRouterTest, WhatNobodyAnswersGetsAnEmptyReply)
     EXPECT_EQ(router.Send(EnvelopeWith(Asked(QStringLiteral("Other")).Text())), QString());
     EXPECT_EQ(router.Send(EnvelopeWith(QStringLiteral("<nonsense"))), QString());
     EXPECT_EQ(router.Send(EnvelopeWith({})), QString());
+}
+
+TEST_F(HostRouterTest, AnAnswerCanBeTakenBack)
+{
+    router.Answers(QStringLiteral("Ask"), [](const Message&) { return QStringLiteral("yes"); });
+    router.NoLongerAnswers(QStringLiteral("Ask"));
+    EXPECT_EQ(router.Send(EnvelopeWith(Asked(QStringLiteral("Ask")).Text())), QString());
+}
+
+TEST_F(HostRouterTest, AnAnswerThatFailsFailsTheSendAndIsToldOf)
+{
+    router.Answers(QStringLiteral("Ask"), [](const Message&) -> QString { throw HostError("no room for é"); });
+    EXPECT_THROW(router.Send(EnvelopeWith(Asked(QStringLiteral("Ask")).Text())), HostError);
+    ASSERT_EQ(crossings.size(), 1);
+    EXPECT_EQ(crossings[0].message, Asked(QStringLiteral("Ask")));
+    EXPECT_EQ(crossings[0].failure, "no room for é");
 }
 
 TEST_F(HostRouterTest, TellsOfEveryMessageWithItsReply)

@@ -12,7 +12,7 @@ namespace {
 
 Crossing CrossingWithReply(const QString& reply)
 {
-    return {QDateTime::currentDateTime(), {}, Message{}, reply};
+    return {QDateTime::currentDateTime(), {}, Message{}, reply, {}};
 }
 
 QByteArray ContentsOf(const QString& fileName)

@@ -17,7 +17,8 @@ Crossing HelpCrossing(const QString& value)
     return {QDateTime({2024, 5, 6}, {7, 8, 9, 10}),
             {QStringLiteral("ctlSchedule"), QStringLiteral("schedhost"), MessageKind::Request, message.Text()},
             message,
-            QStringLiteral("ok")};
+            QStringLiteral("ok"),
+            {}};
 }
 
 QStringList Line(const MessageModel& model, int row)
@@ -38,6 +39,15 @@ TEST(MessageModel, ShowsTimeRouteKindNameParametersAndReply)
     EXPECT_EQ(Line(model, 0),
               (QStringList{"07:08:09.010", "ctlSchedule → schedhost", "Request", "ProcessSubscriberEvent",
                            "ContextID = \"20\"; Form = \"ctlSchedule\"", "ok"}));
+}
+
+TEST(MessageModel, AFailureStandsInPlaceOfTheReply)
+{
+    MessageModel model;
+    Crossing failed = HelpCrossing({});
+    failed.failure = QStringLiteral("no room");
+    model.Append(failed);
+    EXPECT_EQ(Line(model, 0)[MessageModel::Reply], "failed: no room");
 }
 
 TEST(MessageModel, NamesItsFields)

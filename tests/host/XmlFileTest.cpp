@@ -162,4 +162,31 @@ TEST(XmlFile, AFileThatCannotBeReadIsToldWithItsName)
     }
 }
 
+TEST(EncodedXml, IsTheTextInUtf8)
+{
+    EXPECT_EQ(EncodedXml(QStringLiteral("<a>é\r\n</a>")), "<a>\xC3\xA9\r\n</a>");
+    EXPECT_EQ(EncodedXml(QStringLiteral("<?xml version='1.0'?><a/>")), "<?xml version='1.0'?><a/>");
+}
+
+TEST(EncodedXml, ADeclarationNamesNoOtherEncoding)
+{
+    EXPECT_EQ(EncodedXml(QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-16\" standalone=\"yes\"?><a/>")),
+              "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?><a/>");
+    EXPECT_EQ(EncodedXml(QStringLiteral("<?xml version='1.1'  encoding = 'latin1'?><a/>")),
+              "<?xml version='1.1'  encoding = 'UTF-8'?><a/>");
+    const QString right = QStringLiteral("<?xml version='1.0' encoding='utf-8'?><a/>");
+    EXPECT_EQ(EncodedXml(right), right.toUtf8()) << "what is right stays as it is written";
+    const QString inside = QStringLiteral("<a><!-- <?xml version='1.0' encoding='latin1'?> --></a>");
+    EXPECT_EQ(EncodedXml(inside), inside.toUtf8()) << "only the declaration counts";
+}
+
+TEST(WriteXmlFile, WhatIsWrittenIsReadBack)
+{
+    QTemporaryDir folder;
+    const QString name = folder.filePath(QStringLiteral("a.xml"));
+    const QString text = QStringLiteral("<?xml version='1.0' encoding='UTF-8'?>\r\n<a>é 水 𝄞</a>\n");
+    WriteXmlFile(name, text);
+    EXPECT_EQ(ReadXmlFile(name), text);
+}
+
 } // namespace schedules::host

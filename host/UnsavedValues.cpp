@@ -1,0 +1,25 @@
+#include "host/UnsavedValues.h"
+
+#include <QCoreApplication>
+#include <QMessageBox>
+
+namespace schedules::host {
+
+UnsavedValues AskAboutUnsaved(QWidget& window, const QString& file)
+{
+    const QString text =
+        QCoreApplication::translate("UnsavedValues", "There are edited values of %1 that are not saved.");
+    const auto answer =
+        QMessageBox::warning(&window, window.windowTitle(), text.arg(file),
+                             QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+    switch (answer) {
+    case QMessageBox::Save:
+        return UnsavedValues::Save;
+    case QMessageBox::Discard:
+        return UnsavedValues::Discard;
+    default:
+        return UnsavedValues::Keep;
+    }
+}
+
+} // namespace schedules::host
