@@ -113,7 +113,7 @@ def tags_down(name, corner):
     for entry in in_groups(tags, "section"):
         if isinstance(entry, str):
             table.row_colors[len(table.rows)] = GROUP_COLOR
-            table.add(entry, [cell("TD") for _ in items])
+            table.add(entry, [cell("TD") for _ in items], fontBold="-1")
         else:
             table.add(entry["tag"], [value_cell(item, entry) for item in items], hidden=flag(entry["hidden"]))
     return table.text()

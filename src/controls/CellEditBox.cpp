@@ -2,11 +2,14 @@
 
 #include "common/modResource.h"
 
+#include <QGuiApplication>
+#include <QInputMethod>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 
 #include <algorithm>
+#include <limits>
 
 namespace schedules {
 
@@ -67,6 +70,7 @@ bool ComesBack(Qt::FocusReason reason)
 CellEditBox::CellEditBox(QWidget* parent) : QLineEdit(parent)
 {
     setFrame(false);
+    setMaxLength(std::numeric_limits<int>::max());
     setAccessibleName(ComponentText("Edit value"));
     connect(this, &QLineEdit::textChanged, this, &CellEditBox::LookAtChange);
     hide();
@@ -75,12 +79,30 @@ CellEditBox::CellEditBox(QWidget* parent) : QLineEdit(parent)
 void CellEditBox::Open(const QString& value, const QRect& place, Qt::Alignment valueAlignment)
 {
     setAlignment(valueAlignment | Qt::AlignVCenter);
-    Accepting([&] { setText(value); });
+    SetValue(value);
     setGeometry(place);
     show();
     raise();
     setFocus(Qt::OtherFocusReason);
     selectAll();
+}
+
+void CellEditBox::SetValue(const QString& value)
+{
+    Accepting([&] { setText(value); });
+}
+
+QString CellEditBox::FinishedValue()
+{
+    if (!m_composing.isEmpty())
+        QGuiApplication::inputMethod()->commit();
+    // An input method need not listen.
+    if (!m_composing.isEmpty()) {
+        QInputMethodEvent event;
+        event.setCommitString(m_composing);
+        inputMethodEvent(&event);
+    }
+    return text();
 }
 
 void CellEditBox::Close()
@@ -161,8 +183,11 @@ void CellEditBox::CutToMaximum()
 
 void CellEditBox::LookAtChange()
 {
-    if (m_accepting)
+    // What undoing brings back was there before, however long it is.
+    if (m_accepting || isRedoAvailable()) {
+        m_textBefore = text();
         return;
+    }
     const QString now = text();
     const auto [before, start] = std::ranges::mismatch(m_textBefore, now);
     const auto longestEnd = std::min(m_textBefore.cend() - before, now.cend() - start);
@@ -191,11 +216,19 @@ void CellEditBox::Tidy(qsizetype start, qsizetype length)
 /// Undoes the last change, if that is a step of its own, so that the user who undoes does not come upon it.
 bool CellEditBox::TakeBack()
 {
+    const QString changed = text();
     undo();
     if (text() == m_textBefore)
         return true;
-    redo();
+    if (text() != changed)
+        redo();
     return false;
+}
+
+void CellEditBox::inputMethodEvent(QInputMethodEvent* event)
+{
+    m_composing = event->preeditString();
+    QLineEdit::inputMethodEvent(event);
 }
 
 void CellEditBox::focusOutEvent(QFocusEvent* event)

@@ -21,6 +21,12 @@ public:
     /// Shows a value at a place of the parent and takes the focus, all of the value selected.
     void Open(const QString& value, const QRect& place, Qt::Alignment valueAlignment);
 
+    /// Shows another value, as it is.
+    void SetValue(const QString& value);
+
+    /// The value, with what an input method is still composing.
+    QString FinishedValue();
+
     /// Hides the box and forgets the value.
     void Close();
 
@@ -42,6 +48,7 @@ Q_SIGNALS:
 protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
@@ -58,6 +65,7 @@ private:
     void Accepting(Change&& change);
 
     QString m_textBefore;
+    QString m_composing; ///< what an input method has not committed yet
     bool m_accepting = false;
 };
 

@@ -48,6 +48,12 @@ public:
     /// Scrolls as little as possible.
     void EnsureVisible(Cell cell);
 
+    /// Does what a key that moves the active cell does, without modifiers.
+    void PressMoveKey(Qt::Key key);
+
+    /// Gives the focus to the next widget of the window, or the one before.
+    void PassFocusOn(bool forward) { focusNextPrevChild(forward); }
+
     /// What is selected, by the first and the last column and row of the block as shown. As long as no data cell is
     /// active nothing is selected, and the range is the header corner.
     CellRange Selection() const;

@@ -43,6 +43,14 @@ void SpreadView::keyPressEvent(QKeyEvent* event)
         event->ignore();
 }
 
+void SpreadView::PressMoveKey(Qt::Key key)
+{
+    const QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+    const Move keyMove = Shows() ? MoveOf(press, isRightToLeft()) : nullptr;
+    if (keyMove)
+        GoBy(keyMove, false);
+}
+
 void SpreadView::GoBy(Move keyMove, bool extend)
 {
     const SpreadGeometry geometry = Geometry();
@@ -54,8 +62,12 @@ void SpreadView::GoBy(Move keyMove, bool extend)
     if (anywhere && IsPageMove(keyMove))
         ScrollBy({0, geometry.Rows().Distance(from.row, to.row)});
     const Cell cell = CellOf(*m_sheet, to);
-    const bool moves = cell != m_sheet->ActiveCell() && !(extend && anywhere);
-    extend&& anywhere ? ExtendTo(cell) : Activate(cell);
+    const bool extends = extend && anywhere;
+    const bool moves = cell != m_sheet->ActiveCell() && !extends;
+    if (extends)
+        ExtendTo(cell);
+    else
+        Activate(cell);
     EnsureVisible(cell);
     if (moves)
         Q_EMIT ActiveCellMoved(cell);
@@ -93,7 +105,10 @@ void SpreadView::PressCell(Place place, bool extend)
     const bool extends = extend && m_selection.Block(*m_sheet);
     const bool sweeps = !extend && m_sweeps && m_sweeps(cell);
     m_drag = SpreadDrag{place, cell != m_sheet->ActiveCell(), extends, sweeps};
-    extends ? ExtendTo(cell) : Activate(cell);
+    if (extends)
+        ExtendTo(cell);
+    else
+        Activate(cell);
     if (sweeps)
         Q_EMIT SweepStarted(cell);
 }
@@ -135,8 +150,11 @@ void SpreadView::DragTo(QPoint point)
         m_dragTimer.stop();
     else if (!m_dragTimer.isActive())
         m_dragTimer.start(kDragInterval, this);
-    if (const auto place = m_drag->CornerAt(point, geometry, *m_sheet))
-        m_drag->sweeps ? SweepTo(*place) : ReachTo(*place);
+    const auto place = m_drag->CornerAt(point, geometry, *m_sheet);
+    if (place && m_drag->sweeps)
+        SweepTo(*place);
+    else if (place)
+        ReachTo(*place);
 }
 
 void SpreadView::ReachTo(Place place)

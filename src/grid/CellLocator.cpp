@@ -26,6 +26,16 @@ std::optional<CellSpan> CellSpans::Find(Sheet::TablePlace place) const
     return found != m_entries.end() && found->place == place ? std::optional(found->span) : std::nullopt;
 }
 
+std::set<Sheet::TablePlace> CellSpans::PlacesOf(const std::set<std::uint32_t>& starts) const
+{
+    std::set<Sheet::TablePlace> places;
+    for (const auto& [place, span] : m_entries) {
+        if (starts.contains(span.start))
+            places.insert(place);
+    }
+    return places;
+}
+
 void CellLocator::StartElement(const XmlStartTag& tag)
 {
     ScheduleReader::StartElement(tag);

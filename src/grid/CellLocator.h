@@ -4,6 +4,7 @@
 #include "spread/Sheet.h"
 
 #include <cstdint>
+#include <set>
 #include <vector>
 
 namespace schedules {
@@ -26,6 +27,9 @@ public:
 
     /// Nothing for a place without an element: one that a comment or stray text takes, or beyond the table.
     std::optional<CellSpan> Find(Sheet::TablePlace place) const;
+
+    /// The places of the elements that begin there.
+    std::set<Sheet::TablePlace> PlacesOf(const std::set<std::uint32_t>& starts) const;
 
 private:
     friend class CellLocator;

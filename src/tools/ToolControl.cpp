@@ -83,6 +83,8 @@ QString ToolControl::SendRequestToOwner(const RequestMessage& message) noexcept
 
 QString ToolControl::SendEventToOwner(const EventMessage& message)
 {
+    if (!m_router)
+        throw Error(kUnexpectedError, QStringLiteral("There is no host to tell."));
     return Send(message, EventMessage::kKind, m_owner);
 }
 

@@ -4,6 +4,7 @@
 #include "framework/IToolUI.h"
 #include "framework/Message.h"
 
+#include <QPointer>
 #include <QStringView>
 #include <QVariant>
 #include <QWidget>
@@ -70,10 +71,12 @@ protected:
     template <std::invocable Body>
     void TellingHost(const char* procedure, Body&& body) noexcept
     {
+        const QPointer<QWidget> alive(this); // a host may delete the tool in its answer
         try {
             std::invoke(body);
         } catch (...) {
-            TellHost(procedure);
+            if (alive)
+                TellHost(procedure);
         }
     }
 
@@ -81,10 +84,12 @@ protected:
     template <std::invocable Body>
     void TellingUser(const char* procedure, Body&& body) noexcept
     {
+        const QPointer<QWidget> alive(this);
         try {
             std::invoke(body);
         } catch (...) {
-            TellUser(procedure);
+            if (alive)
+                TellUser(procedure);
         }
     }
 

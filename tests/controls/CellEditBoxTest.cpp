@@ -319,4 +319,33 @@ TEST_F(CellEditBoxTest, TellsThatTheFocusIsGoneOnlyWhenItDoesNotComeBack)
     }
 }
 
+TEST_F(CellEditBoxTest, UndoOfADeletionInALongValueRestoresIt)
+{
+    Open(kForty);
+    box.setSelection(0, 5);
+    QTest::keyClick(&box, Qt::Key_Delete);
+    ASSERT_EQ(box.text().size(), 35);
+    QTest::keySequence(&box, QKeySequence::Undo);
+    EXPECT_EQ(Text(), kForty.toStdString());
+    EXPECT_EQ(refused.count(), 0);
+}
+
+TEST_F(CellEditBoxTest, AnotherValueIsShownAsItIs)
+{
+    Open(kThirty);
+    box.SetValue(kForty);
+    EXPECT_EQ(Text(), kForty.toStdString());
+    EXPECT_EQ(refused.count(), 0);
+}
+
+TEST_F(CellEditBoxTest, TheFinishedValueHoldsWhatIsBeingComposed)
+{
+    OpenAtEnd(QStringLiteral("12"));
+    EXPECT_EQ(box.FinishedValue(), QStringLiteral("12"));
+    QInputMethodEvent composing(QStringLiteral("日本"), {});
+    QApplication::sendEvent(&box, &composing);
+    EXPECT_EQ(box.FinishedValue(), QStringLiteral("12日本"));
+    EXPECT_EQ(box.FinishedValue(), QStringLiteral("12日本"));
+}
+
 } // namespace schedules

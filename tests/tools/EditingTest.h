@@ -39,6 +39,15 @@ protected:
         QTest::mouseClick(Spread()->viewport(), Qt::LeftButton, modifiers, Middle(column, row));
     }
 
+    /// Presses the right button, upon which the desktop asks for a menu.
+    void AskForMenu(QPoint point)
+    {
+        QWidget* const viewport = Spread()->viewport();
+        QTest::mouseClick(viewport, Qt::RightButton, {}, point);
+        QContextMenuEvent asked(QContextMenuEvent::Mouse, point, viewport->mapToGlobal(point));
+        QApplication::sendEvent(viewport, &asked);
+    }
+
     /// Presses a key where the focus is.
     void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(Focus(), key, modifiers); }
     void Type(const char* text) { QTest::keyClicks(Focus(), QLatin1String(text)); }

@@ -116,6 +116,30 @@ TEST(HeldDocument, OnceSettledItCountsInTheEditedText)
                                               "<TR><TH>1</TH><TD Dirty=\"-1\">x</TD></TR></TABLE>"));
 }
 
+TEST(HeldDocument, UnsavedPlacesFollowTheRowsThatAnEditedCellLoses)
+{
+    HeldDocument document =
+        Held("<TABLE><TR><TD>a</TD><TD><TABLE><TR><TD>in</TD></TR><TR><TD>in 2</TD></TR></TABLE></TD>"
+             "</TR><TR><TD>below</TD></TR></TABLE>");
+    document.SetCellText({0, 0}, QStringLiteral("longer"));
+    document.SetCellText({1, 0}, QStringLiteral("goes with its cell"));
+    document.SetCellText({3, 0}, QStringLiteral("edited"));
+    document.SetCellText({0, 1}, QStringLiteral("no table"));
+    document.Settle();
+    EXPECT_EQ(document.Text().toStdString(), "<TABLE><TR><TD Dirty=\"-1\">longer</TD><TD Dirty=\"-1\">no table</TD>"
+                                             "</TR><TR><TD Dirty=\"-1\">edited</TD></TR></TABLE>");
+    EXPECT_EQ(document.Unsaved(), (std::set<Sheet::TablePlace>{{0, 0}, {0, 1}, {1, 0}}));
+}
+
+TEST(HeldDocument, KeepsAByteOrderMark)
+{
+    const QString marked = QChar(QChar::ByteOrderMark) + QLatin1String(kTable);
+    HeldDocument document;
+    document.Hold(marked);
+    ASSERT_TRUE(document.SetCellText({1, 1}, QStringLiteral("x")));
+    EXPECT_EQ(document.Text(), QString(marked).replace(QStringLiteral("<TD>a1"), QStringLiteral("<TD Dirty=\"-1\">x")));
+}
+
 TEST(HeldDocument, KnowsWhatIsNotSaved)
 {
     HeldDocument document = Held(kTable);

@@ -535,4 +535,104 @@ TEST_F(CellEditingTest, RefusedKeysBeep)
     EXPECT_EQ(Edit(), "1,1: 123456789012345678901234567890");
 }
 
+TEST_F(CellEditingTest, EscapeKeepsALongValueAndItsLineBreaks)
+{
+    const QString longValue = QStringLiteral("1234567890123456789012345678901234567890");
+    Show(kScheduleView, QStringLiteral("<TABLE><TR><TH/><TH>A</TH><TH>B</TH></TR><TR><TH/><TD AllowEdit='-1'>%1</TD>"
+                                       "<TD AllowEdit='-1'>a&#10;b</TD></TR></TABLE>")
+                            .arg(longValue));
+    for (const int column : {1, 2}) {
+        const std::string before = TextAt(column, 1);
+        ClickCell(column, 1);
+        Key(Qt::Key_Delete);
+        Type("x");
+        Key(Qt::Key_Escape);
+        EXPECT_EQ(TextAt(column, 1), before);
+        EXPECT_FALSE(Dirty());
+    }
+    EXPECT_EQ(user.beeps, 0);
+}
+
+TEST_F(CellEditingTest, EnterOnAnUntouchedValueOfAnyLengthChangesNothing)
+{
+    Show(kScheduleView,
+         QStringLiteral("<TABLE><TR><TH/><TH>A</TH></TR><TR><TH/><TD AllowEdit='-1'>%1</TD></TR></TABLE>")
+             .arg(QString(40'000, u'x')));
+    ClickCell(1, 1);
+    Key(Qt::Key_Return);
+    EXPECT_FALSE(Dirty());
+    EXPECT_EQ(TextAt(1, 1).size(), 40'000u);
+}
+
+TEST_F(CellEditingTest, WhatAnInputMethodIsStillComposingIsCommitted)
+{
+    ShowSchedule();
+    ClickCell(3, 1);
+    QInputMethodEvent composing(QStringLiteral("日本"), {});
+    QApplication::sendEvent(Box(), &composing);
+    view.SetTagDataDirty(true);
+    QTest::mouseClick(Find<QToolBar>("tbTasks")->widgetForAction(Tool("btnSaveTag")), Qt::LeftButton);
+    EXPECT_EQ(TextAt(3, 1), "日本");
+    EXPECT_TRUE(SavedXml().find("日本") != std::string::npos);
+}
+
+TEST_F(CellEditingTest, KeysWithModifiersAreLeftToTheHost)
+{
+    ShowSchedule();
+    for (const auto modifier : {Qt::ControlModifier, Qt::AltModifier, Qt::MetaModifier}) {
+        TheSheet()->SetActiveCell({Column(1), Row(1)});
+        for (const auto key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_F2, Qt::Key_Space}) {
+            QKeyEvent press(QEvent::KeyPress, key, modifier);
+            QApplication::sendEvent(Spread(), &press);
+            EXPECT_EQ(Edit(), "idle");
+            EXPECT_FALSE(press.isAccepted());
+        }
+    }
+}
+
+TEST_F(CellEditingTest, AKeyHeldDownAfterACommitDoesNotReachTheHostsForm)
+{
+    ShowSchedule();
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_F2, Qt::Key_Escape}) {
+        TheSheet()->SetActiveCell({Column(1), Row(1)});
+        QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, {}, true);
+        QApplication::sendEvent(Spread(), &held);
+        EXPECT_TRUE(held.isAccepted()) << key;
+        EXPECT_EQ(Edit(), "idle");
+    }
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QApplication::sendEvent(Spread(), &escape);
+    EXPECT_FALSE(escape.isAccepted()) << "one that has nothing to end is the host's";
+}
+
+TEST_F(CellEditingTest, InTheTransposedLayoutTheHeaderRowLeadsToItsColumn)
+{
+    ShowSchedule();
+    Click("btnTranspose");
+    TheSheet()->SetRepainting(false);
+    TheSheet()->SetActiveCell({Column(2), Row(0)});
+    Key(Qt::Key_Return);
+    EXPECT_EQ(Edit(), "idle");
+    EXPECT_EQ(Active(), "2,1");
+    EXPECT_TRUE(TheSheet()->Repainting());
+}
+
+TEST_F(CellEditingTest, TabFindsTheNextCellOfALargeTable)
+{
+    QString document = QStringLiteral("<TABLE><TR><TH/><TH>A</TH><TH>B</TH></TR>") +
+                       QStringLiteral("<TR><TH/><TD/><TD/></TR>").repeated(500) +
+                       QStringLiteral("<TR><TH/><TD/><TD AllowEdit='-1'>last</TD></TR></TABLE>");
+    document.replace(document.indexOf(QStringLiteral("<TD/>")), 5, QStringLiteral("<TD AllowEdit='-1'>first</TD>"));
+    Show(kScheduleView, document);
+    ClickCell(1, 1);
+    Key(Qt::Key_Tab);
+    EXPECT_EQ(Edit(), "2,501: last");
+    Key(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(Edit(), "1,1: first");
+    Activate(kEditable);
+    ClickCell(1, 1);
+    Key(Qt::Key_Tab);
+    EXPECT_EQ(Edit(), "3,1: spare") << "another table has other cells";
+}
+
 } // namespace schedules

@@ -127,7 +127,7 @@ TEST_F(ScheduleProtocol, AHostThatNeverListensIsSurvived)
     EXPECT_EQ(Grid(), " | P-1\nFlow | 12\nHead | 48");
 }
 
-TEST_F(ScheduleProtocol, WithoutARouterTheViewWorksAndSendsNothing)
+TEST_F(ScheduleProtocol, WithoutARouterTheViewWorksAndSaysThatNobodyListens)
 {
     view.setProperty("ViewType", kScheduleView);
     view.IToolUI_Initialize(nullptr, QStringLiteral("Host"));
@@ -139,7 +139,9 @@ TEST_F(ScheduleProtocol, WithoutARouterTheViewWorksAndSendsNothing)
     Press("cmdCancel");
     view.IToolUI_Deactivate(false);
     EXPECT_EQ(Grid(), " | Flow | Head\nP-1 | 12 | 48");
-    EXPECT_EQ(Boxes(), "");
+    EXPECT_EQ(Boxes(), "There is no host to tell. (48) Schedules.ctlSchedule.ab_ToolClick\n"
+                       "There is no host to tell. (48) Schedules.ctlSchedule.ab_ToolClick\n"
+                       "There is no host to tell. (48) Schedules.ctlSchedule.cmdCancel_Click");
 }
 
 TEST_F(ScheduleProtocol, HandingOverADocumentChangesNothingBeforeTheActivation)

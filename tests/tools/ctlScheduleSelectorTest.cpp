@@ -55,10 +55,10 @@ protected:
         return Log();
     }
 
-    /// The entries of the menu that a right click opens; "" for none.
+    /// The menu that a right click opens; null for none.
     QMenu* MenuAt(int column, int row)
     {
-        Q_EMIT Spread()->customContextMenuRequested(Middle(column, row));
+        AskForMenu(Middle(column, row));
         return view.findChild<QMenu*>(QStringLiteral("mnuGrid"));
     }
 
@@ -68,9 +68,10 @@ protected:
         ASSERT_TRUE(menu);
         for (QAction* action : menu->actions()) {
             if (action->text() == QLatin1String(entry))
-                action->trigger();
+                QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
         }
-        delete menu;
+        EXPECT_FALSE(menu->isVisible());
+        QCoreApplication::sendPostedEvents(menu, QEvent::DeferredDelete);
     }
 
     static std::string ContinueEvent(const char* tags)
@@ -278,6 +279,65 @@ TEST_F(SelectorTest, AThousandTagsAreCollected)
     const QString tags = QString::fromStdString(Continued());
     EXPECT_EQ(tags.count(QStringLiteral("<Tag>")), 1000);
     EXPECT_TRUE(tags.contains(QStringLiteral("<Tag><Id>P-1000</Id></Tag></Tags>")));
+}
+
+TEST_F(SelectorTest, TheMenuKeyOpensTheMenu)
+{
+    ShowSelector();
+    TheSheet()->SetActiveCell({Column(1), Row(1)});
+    QContextMenuEvent asked(QContextMenuEvent::Keyboard, Middle(1, 1), Spread()->mapToGlobal(Middle(1, 1)));
+    QApplication::sendEvent(Spread(), &asked);
+    auto* menu = view.findChild<QMenu*>(QStringLiteral("mnuGrid"));
+    ASSERT_TRUE(menu);
+    EXPECT_TRUE(menu->isVisible());
+    delete menu;
+}
+
+TEST_F(SelectorTest, AMenuThatOutlivesItsTableDoesNothing)
+{
+    ShowSelector();
+    QMenu* menu = MenuAt(1, 1);
+    ASSERT_TRUE(menu);
+    QAction* const all = menu->actions().first();
+    view.setProperty("ViewType", kScheduleView);
+    Activate(QStringLiteral(
+        "<TABLE><TR><TH/><TH>A</TH></TR><TR><TH/><TD dataType='CHECKBOX' visible='-1'>0</TD></TR></TABLE>"));
+    all->trigger();
+    EXPECT_EQ(TextAt(1, 1), "0");
+    EXPECT_FALSE(Dirty());
+    view.CleanUP();
+    all->trigger();
+    EXPECT_EQ(Boxes(), "");
+    delete menu;
+}
+
+TEST_F(SelectorTest, TheLegendFollowsFrozenCountsThatAreSetLater)
+{
+    ShowSelector();
+    EXPECT_FALSE(Shown("lblLegend"));
+    view.setProperty("ColsFrozen", 1);
+    EXPECT_EQ(Find<QLabel>("lblLegend")->text(),
+              QStringLiteral("Note: the first data column contains selection requirements only."));
+    EXPECT_TRUE(Shown("lblLegend"));
+    view.setProperty("RowsFrozen", 2);
+    EXPECT_EQ(Find<QLabel>("lblLegend")->text(),
+              QStringLiteral("Note: the first data row contains selection requirements only."));
+    view.setProperty("RowsFrozen", 0);
+    view.setProperty("ColsFrozen", 0);
+    EXPECT_FALSE(Shown("lblLegend"));
+}
+
+TEST_F(SelectorTest, FrozenCountsSetWhileTransposedHoldAtOnceAndAfterActivation)
+{
+    view.setProperty("RowsFrozen", 1);
+    view.setProperty("ColsFrozen", 2);
+    ShowSelector();
+    Click("btnTranspose");
+    EXPECT_EQ(Frozen(), "1 x 2");
+    view.setProperty("RowsFrozen", 3);
+    EXPECT_EQ(Frozen(), "1 x 3");
+    view.IToolUI_Activate();
+    EXPECT_EQ(Frozen(), "2 x 3");
 }
 
 } // namespace schedules

@@ -40,7 +40,7 @@ protected:
 
     QStringList Entries(int column, int row)
     {
-        Q_EMIT Spread()->customContextMenuRequested(Middle(column, row));
+        AskForMenu(Middle(column, row));
         auto* menu = view.findChild<QMenu*>(QStringLiteral("mnuGrid"));
         QStringList entries;
         for (const QAction* action : menu ? menu->actions() : QList<QAction*>()) {

@@ -3,7 +3,10 @@
 #include "common/XmlReader.h"
 #include "tools/schedule/EditedElement.h"
 
+#include <QStringDecoder>
+
 #include <iterator>
+#include <utility>
 
 namespace schedules {
 
@@ -26,7 +29,9 @@ QString HeldDocument::Text() const
         from = edit.end;
     }
     edited.append(m_utf8.constData() + from, m_utf8.size() - from);
-    return QString::fromUtf8(edited);
+    // A byte-order mark at the start is the host's, too.
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    return decoder(edited);
 }
 
 bool HeldDocument::SetCellText(Sheet::TablePlace place, const QString& text)
@@ -36,6 +41,7 @@ bool HeldDocument::SetCellText(Sheet::TablePlace place, const QString& text)
         return false;
     const QByteArrayView element(m_utf8.constData() + span->start, span->end - span->start);
     // A table inside of the cell goes, and with it what was edited there.
+    m_losesCells = m_losesCells || element.contains("<TR");
     m_edits.erase(m_edits.lower_bound(span->start), m_edits.lower_bound(span->end));
     m_edits[span->start] = {span->end, EditedElement(element, text)};
     m_unsaved.insert(place);
@@ -61,10 +67,38 @@ bool HeldDocument::LiesInEdited(const CellSpan& span) const
 
 void HeldDocument::Settle()
 {
+    if (m_edits.empty())
+        return;
+    const std::set<std::uint32_t> unsaved = m_losesCells ? StartsOfUnsaved() : std::set<std::uint32_t>();
     m_text = Text();
     m_spans.reset();
     m_utf8.clear();
     m_edits.clear();
+    if (std::exchange(m_losesCells, false))
+        FindUnsaved(unsaved);
+}
+
+/// Where the unsaved elements that are still there begin in the text with all edits.
+std::set<std::uint32_t> HeldDocument::StartsOfUnsaved() const
+{
+    std::set<std::uint32_t> starts;
+    for (const Sheet::TablePlace place : m_unsaved) {
+        const auto span = m_spans->Find(place);
+        if (!span || LiesInEdited(*span))
+            continue;
+        auto start = static_cast<std::int64_t>(span->start);
+        for (auto edit = m_edits.begin(); edit != m_edits.lower_bound(span->start); ++edit)
+            start += edit->second.element.size() - (static_cast<std::int64_t>(edit->second.end) - edit->first);
+        starts.insert(static_cast<std::uint32_t>(start));
+    }
+    return starts;
+}
+
+void HeldDocument::FindUnsaved(const std::set<std::uint32_t>& starts)
+{
+    m_unsaved.clear();
+    if (Open())
+        m_unsaved = m_spans->PlacesOf(starts);
 }
 
 } // namespace schedules

@@ -30,6 +30,7 @@ public:
     /// Edits that have not been saved, by place.
     const std::set<Sheet::TablePlace>& Unsaved() const { return m_unsaved; }
     void SetSaved() { m_unsaved.clear(); }
+    void AddUnsaved(const std::set<Sheet::TablePlace>& places) { m_unsaved.insert(places.begin(), places.end()); }
 
     /// From here on places count in the text with all edits, in which edited elements no longer hold others.
     void Settle();
@@ -43,12 +44,15 @@ private:
 
     bool Open();
     bool LiesInEdited(const CellSpan& span) const;
+    std::set<std::uint32_t> StartsOfUnsaved() const;
+    void FindUnsaved(const std::set<std::uint32_t>& starts);
 
     QString m_text;
     std::optional<CellSpans> m_spans;      ///< once opened
     QByteArray m_utf8;                     ///< the text as the spans count
     std::map<std::uint32_t, Edit> m_edits; ///< by where they start; none within another
     std::set<Sheet::TablePlace> m_unsaved;
+    bool m_losesCells = false; ///< an edited cell held others
 };
 
 } // namespace schedules

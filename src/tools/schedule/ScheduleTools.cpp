@@ -21,6 +21,12 @@ constexpr std::array kImages{"print", "export", "customize", "help", "transpose"
 
 } // namespace
 
+bool IsScheduleTool(const QString& key)
+{
+    constexpr std::array kAll{kTranspose, kSave, kPrint, kExport, kCustomize, kHelp};
+    return std::ranges::any_of(kAll, [&](const ScheduleTool& tool) { return key == QLatin1String(tool.key); });
+}
+
 std::vector<ScheduleTool> ScheduleToolsOf(int viewType, bool printsSelections)
 {
     switch (static_cast<CResEnum::eViewType>(viewType)) {

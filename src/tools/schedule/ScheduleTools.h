@@ -15,6 +15,9 @@ struct ScheduleTool
     int tooltip;         ///< number of the localised text
 };
 
+/// Whether a key is that of one of the view's own tools, in whatever type of view.
+bool IsScheduleTool(const QString& key);
+
 /// The tools of a view type, in the order in which they are added; none for a type that is neither of the two.
 /// `printsSelections` says whether the selector view has Print.
 std::vector<ScheduleTool> ScheduleToolsOf(int viewType, bool printsSelections);

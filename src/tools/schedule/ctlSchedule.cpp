@@ -3,10 +3,11 @@
 #include "common/CResEnum.h"
 #include "common/StringNumbers.h"
 #include "common/modResource.h"
-#include "controls/CellEditBox.h"
 #include "controls/DesktopUserInterface.h"
 #include "controls/SpreadView.h"
 #include "spread/RepaintingOff.h"
+#include "tools/schedule/CellEditing.h"
+#include "tools/schedule/RowSorting.h"
 #include "tools/schedule/ScheduleToolbar.h"
 #include "tools/schedule/ScheduleTools.h"
 
@@ -14,6 +15,7 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -50,9 +52,8 @@ ctlSchedule::ctlSchedule(UserInterface* userInterface)
 ctlSchedule::~ctlSchedule()
 {
     Disconnect();
-    m_edit = {};
+    m_editing.reset();
     m_spread->disconnect(this);
-    m_editBox->disconnect(this);
     m_spread->SetSheet(nullptr);
     m_engine.SetSched(nullptr);
     m_sheet = nullptr;
@@ -79,7 +80,8 @@ void ctlSchedule::BuildGrid()
     m_spread->SetSheet(m_sheet);
     m_spread->setContextMenuPolicy(Qt::CustomContextMenu);
     m_engine.SetSched(m_sheet);
-    m_editBox = Named<CellEditBox>("txtEditCell", m_spread->viewport());
+    m_editing = std::make_unique<CellEditing>(*m_spread, m_engine, [this] { return MayEdit(); });
+    m_sorting = std::make_unique<RowSorting>(*m_spread);
     setFocusProxy(m_spread);
 }
 
@@ -102,22 +104,25 @@ void ctlSchedule::ConnectControls()
 {
     connect(m_toolbar, &ScheduleToolbar::ViewToolClicked, this, &ctlSchedule::ab_ToolClick);
     connect(m_toolbar, &ScheduleToolbar::HostToolClicked, this, [this](const QString& owner, const QString& key) {
-        CommitCellEdit();
+        BeginCommand();
         Q_EMIT HostToolClicked(owner, key);
     });
     connect(m_continue, &QPushButton::clicked, this, &ctlSchedule::cmdContinue_Click);
     connect(m_cancel, &QPushButton::clicked, this, &ctlSchedule::cmdCancel_Click);
     connect(m_spread, &QWidget::customContextMenuRequested, this, &ctlSchedule::ShowContextMenu);
-    ConnectEditing();
+    connect(m_editing.get(), &CellEditing::Changed, this, &ctlSchedule::ChangeCell);
+    connect(m_editing.get(), &CellEditing::Closed, this, &ctlSchedule::FollowTagDataDirty);
+    connect(m_editing.get(), &CellEditing::Refused, this, [this] { IgnoringErrors([this] { Ui().Beep(); }); });
     ConnectCheckBoxes();
 }
 
 /// Closing the window that is this view is what its last button does.
 void ctlSchedule::closeEvent(QCloseEvent* event)
 {
+    const QPointer<ctlSchedule> alive(this);
     if (!m_unloaded && IsConnected())
         cmdCancel_Click();
-    event->setAccepted(m_unloaded || !IsConnected());
+    event->setAccepted(!alive || m_unloaded || !IsConnected());
 }
 
 void ctlSchedule::resizeEvent(QResizeEvent* event)
@@ -151,6 +156,7 @@ void ctlSchedule::IToolUI_XML(const QString& sData)
 {
     m_held.Hold(sData);
     m_xmlIsNew = true;
+    m_unloaded = false;
 }
 
 void ctlSchedule::IToolUI_Activate()
@@ -164,15 +170,16 @@ void ctlSchedule::IToolUI_Activate()
 void ctlSchedule::IToolUI_Deactivate([[maybe_unused]] bool bCancel)
 {
     TraceProcedure(__func__);
-    CommitCellEdit();
+    m_editing->CommitCellEdit();
 }
 
 void ctlSchedule::Activate()
 {
-    CommitCellEdit();
-    m_unloaded = false;
+    BeginCommand();
     ShowCommandButtons();
     StartNormalLayout();
+    if (std::exchange(m_xmlIsNew, false))
+        LeaveFormerXml();
     if (!ShowHeldXml())
         return;
     InitializeControls();
@@ -189,9 +196,6 @@ void ctlSchedule::StartNormalLayout()
 
 bool ctlSchedule::ShowHeldXml()
 {
-    if (std::exchange(m_xmlIsNew, false))
-        LeaveFormerXml();
-    m_held.Settle();
     if (IsSelectorView() ? LoadSelection() : LoadSchedule())
         return true;
     ShowBox(IsSelectorView() ? kSelectionNotShown : kScheduleNotShown);
@@ -208,25 +212,31 @@ void ctlSchedule::LeaveFormerXml()
 
 bool ctlSchedule::LoadSchedule()
 {
-    m_sheet = m_engine.Sched();
-    const RepaintingOff off(*m_sheet);
+    m_showsTags = false;
     m_legend->hide();
-    m_spread->ShowEditable(IsScheduleView());
-    const bool loaded = m_engine.LoadScheduleData(m_held.Text());
-    ForgetSorting();
-    MarkUnsaved();
-    return loaded;
+    return Load([this](const QString& xml) { return m_engine.LoadScheduleData(xml); });
 }
 
 bool ctlSchedule::LoadSelection()
 {
+    m_showsTags = Load([this](const QString& xml) {
+        return m_engine.SchedInitialize() && m_engine.LoadSelectionData(xml, m_selectAllTags);
+    });
+    if (m_showsTags)
+        UpdateLegend();
+    return m_showsTags;
+}
+
+bool ctlSchedule::Load(const std::function<bool(const QString& xml)>& fill)
+{
     m_sheet = m_engine.Sched();
     const RepaintingOff off(*m_sheet);
+    m_held.Settle();
     m_spread->ShowEditable(IsScheduleView());
-    const bool loaded = m_engine.SchedInitialize() && m_engine.LoadSelectionData(m_held.Text(), m_selectAllTags);
-    ForgetSorting();
-    if (loaded)
-        UpdateLegend();
+    const bool loaded = fill(m_held.Text());
+    m_editing->ForgetTable();
+    m_sorting->Forget();
+    MarkUnsaved();
     return loaded;
 }
 
@@ -235,7 +245,7 @@ bool ctlSchedule::LoadScheduleData(const QString& sData)
     bool loaded = false;
     TellingUser(__func__, [&] {
         m_continue->hide();
-        CommitCellEdit();
+        BeginCommand();
         HoldNewXml(sData);
         loaded = LoadSchedule();
         if (!loaded)
@@ -249,7 +259,7 @@ bool ctlSchedule::LoadSelectionData(const QString& sData)
     bool loaded = false;
     TellingUser(__func__, [&] {
         m_continue->show();
-        CommitCellEdit();
+        BeginCommand();
         HoldNewXml(sData);
         loaded = LoadSelection();
         if (!loaded)
@@ -283,12 +293,20 @@ void ctlSchedule::SetRowsFrozen(int count)
 {
     m_rowsFrozenByHost = count;
     FreezeRows(count);
+    FollowFrozenCounts();
 }
 
 void ctlSchedule::SetColsFrozen(int count)
 {
     m_colsFrozenByHost = count;
     FreezeColumns(count);
+    FollowFrozenCounts();
+}
+
+void ctlSchedule::FollowFrozenCounts()
+{
+    if (m_showsTags)
+        UpdateLegend();
 }
 
 void ctlSchedule::FreezeRows(int count)
@@ -306,7 +324,7 @@ void ctlSchedule::FreezeColumns(int count)
 void ctlSchedule::CleanUP()
 {
     TellingHost(__func__, [this] {
-        CommitCellEdit();
+        BeginCommand();
         Sheet* const sheet = std::exchange(m_sheet, nullptr);
         if (!sheet)
             return;

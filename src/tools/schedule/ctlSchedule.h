@@ -1,21 +1,21 @@
 #pragma once
 
 #include "grid/CSchedule.h"
-#include "spread/RowSort.h"
 #include "spread/Sheet.h"
 #include "tools/ToolControl.h"
 #include "tools/schedule/CustomMessage.h"
 #include "tools/schedule/HeldDocument.h"
+#include "tools/schedule/TagTable.h"
 #include "tools/schedule/ToolIdentifiers.h"
 
-class QKeyEvent;
 class QLabel;
 class QMenu;
 class QPushButton;
 
 namespace schedules {
 
-class CellEditBox;
+class CellEditing;
+class RowSorting;
 class ScheduleToolbar;
 class SpreadView;
 
@@ -48,7 +48,7 @@ class ctlSchedule : public ToolControl
     /// How the grid is laid out now, see `CSchedule`.
     Q_PROPERTY(int SchedOrientation READ SchedOrientation)
     Q_PROPERTY(bool TransposeData READ TransposeData)
-    /// What the grid shows; null after `CleanUP`. Cells in which values were edited and not saved say so.
+    /// What the grid shows; null after `CleanUP`. The style of a cell says whether it was edited and not saved.
     Q_PROPERTY(schedules::Sheet* sheet READ ShownSheet)
 
 public:
@@ -70,7 +70,7 @@ public:
 
     /// Adds a tool of the host at the end of the tool bar: a plain button, for `lToolType` 1 a separator, for 2 a
     /// check button. `lImage` is its picture's number in the view's list of images, 0 for none. A key that exists is
-    /// not added twice. `HostToolClicked` tells of clicks.
+    /// not added twice, and those of the view's own tools exist always. `HostToolClicked` tells of clicks.
     Q_INVOKABLE void AddMenu(const QString& sOwner, const QString& sKey, int lImage, const QString& sText,
                              const QString& sToolTipText, bool bVisible, int lToolType);
 
@@ -82,7 +82,7 @@ public:
     /// the table are shown as columns.
     Q_INVOKABLE void DoColSort();
 
-    /// Does what a click on the tool of that key does; nothing for a key that is none of the view's.
+    /// Does what the tool of that key does, enabled or not; nothing for a key that is none of the view's.
     Q_INVOKABLE void ab_ToolClick(const QString& key);
 
     int RowsFrozen() const { return m_rowsFrozen; }
@@ -124,10 +124,12 @@ private:
     bool ShowHeldXml();
     bool LoadSchedule();
     bool LoadSelection();
+    bool Load(const std::function<bool(const QString& xml)>& fill);
     void LeaveFormerXml();
     void HoldNewXml(const QString& xml);
     void ShowBox(int textNumber);
     void UpdateLegend();
+    void FollowFrozenCounts();
     void FreezeRows(int count);
     void FreezeColumns(int count);
 
@@ -141,73 +143,60 @@ private:
     void ShowCustomMessage();
     void FollowTagDataDirty();
 
-    // Editing. An edit is idle or open; committing closes it.
-    struct CellEdit
-    {
-        Column column{-1};
-        Row row{-1};
-        QString previous; ///< the text of the cell when the edit began
-        bool editing = false;
-    };
-
-    void ConnectEditing();
+    // Edited values.
     bool MayEdit() const;
-    bool CellEditable(Sheet::TablePlace place) const;
-    bool IsEditableCheckBox(Cell cell) const;
-    void StartCellEdit(Cell cell);
-    void BeginCellEdit(Column column, Row row);
-    void CommitCellEdit();
-    void CloseEditBox();
     void ChangeCell(Cell cell, const QString& text);
+    void SetEdited(Cell cell, bool edited);
     void MarkUnsaved();
-    void ForgetUnsaved();
-    void GridCellMoved(Cell cell);
-    void ValidateEditBox();
-    void EditBoxEscape();
-    void GoOnVertically(Qt::Key key);
-    void GoOnByTab(bool forward);
-    bool GoOnToEditable(bool forward);
-    bool GridKeyPressed(const QKeyEvent& event);
-    bool OpenEditByKey(const QKeyEvent& event);
-    bool CommitByKey();
-    bool ToggleByKey(const QKeyEvent& event);
-    bool LeaveCheckBox(bool forward);
+
+    /// What has been edited and not saved, while a save is under way.
+    struct UnsavedEdits
+    {
+        bool dirty;
+        std::set<Sheet::TablePlace> places;
+        std::vector<Cell> marked;
+    };
+    UnsavedEdits TakeUnsaved();
+    void PutBack(const UnsavedEdits& unsaved);
 
     // Check boxes and the selection of tags.
+    enum class Ticking
+    {
+        All,
+        None,
+        Invert
+    };
+
     void ConnectCheckBoxes();
     bool Toggles(Cell cell) const;
     void SetTicked(Cell cell, bool ticked);
     void ToggleCheckBox(Cell cell);
-    void ClickCheckBox(Cell cell);
+    bool PressSpace(bool isHeldDown);
     void StartSweep(Cell cell);
     void Sweep(Cell cell);
-    void TickVisible(bool (*ticks)(bool ticked));
-    std::pair<int, QString> GetSelectedTags() const;
+    void TickVisible(Ticking ticking);
+    SelectedTags GetSelectedTags() const;
     void cmdContinue_Click();
     void PrintSelections();
 
-    // Sorting and the grid's menus.
-    void HeaderClick(Column column);
+    // The grid's menu.
     bool Sortable() const;
-    RowOrder NextOrder() const;
-    void Sort(Column column, RowOrder order);
-    void ForgetSorting();
     void ShowContextMenu(QPoint point);
-    void AddTickingTo(QMenu& menu);
-    void AddSortingTo(QMenu& menu);
+    void FillContextMenu(QMenu& menu);
 
     // Commands.
     static Command CommandOf(const QString& key);
+    void BeginCommand();
     void Transpose();
     void Print();
     void Customize();
     void Help();
     void Save();
+    void SendEdits();
     void UpdateTagScheduleData();
     void cmdCancel_Click();
     bool MayUnload();
     void Unload();
-    void SaveBeforeUnloading();
 
     CSchedule m_engine;
     ToolIdentifiers m_toolIdentifiers;
@@ -215,23 +204,21 @@ private:
     CustomMessage* m_customMessage = nullptr;
     ScheduleToolbar* m_toolbar = nullptr;
     SpreadView* m_spread = nullptr;
-    CellEditBox* m_editBox = nullptr;
     QMenu* m_exportMenu = nullptr;
     QLabel* m_legend = nullptr;
     QPushButton* m_continue = nullptr;
     QPushButton* m_cancel = nullptr;
     Sheet* m_sheet = nullptr;
+    std::unique_ptr<CellEditing> m_editing;
+    std::unique_ptr<RowSorting> m_sorting;
 
     HeldDocument m_held;
     bool m_xmlIsNew = false;    ///< the host has handed over text that no activation has loaded yet
     bool m_unloaded = false;    ///< the host has been told to unload the view
     bool m_initialised = false; ///< the controls around the grid have been set up
 
-    CellEdit m_edit;
-    bool m_validating = false; ///< the edit box is being validated, which must not begin anew
     bool m_sweepTicks = false; ///< what the mouse makes of the check boxes that it sweeps over
-    Column m_sortedColumn{0};
-    RowOrder m_rowOrder = RowOrder::Document;
+    bool m_showsTags = false;  ///< what was loaded last, with success, is a table of tags
 
     QString m_builderPdsg;
     int m_viewType = 0;

@@ -4,7 +4,10 @@
 #include "common/StringNumbers.h"
 #include "common/modResource.h"
 #include "controls/SpreadView.h"
+#include "tools/schedule/CellEditing.h"
 #include "tools/schedule/ctlSchedule.h"
+
+#include <QPointer>
 
 #include <array>
 #include <utility>
@@ -24,10 +27,17 @@ constexpr auto kSaveQuestion = "Save Tag data?";
 void ctlSchedule::ab_ToolClick(const QString& key)
 {
     TellingUser(__func__, [&] {
-        CommitCellEdit();
+        BeginCommand();
         if (const Command command = CommandOf(key))
             (this->*command)();
     });
+}
+
+/// Whatever a command works with is what the user sees, an open edit included.
+void ctlSchedule::BeginCommand()
+{
+    m_unloaded = false;
+    m_editing->CommitCellEdit();
 }
 
 ctlSchedule::Command ctlSchedule::CommandOf(const QString& key)
@@ -72,26 +82,33 @@ void ctlSchedule::Customize()
 
 void ctlSchedule::Help()
 {
+    const QPointer<ctlSchedule> alive(this);
     Ui().SetPointer(Pointer::Hourglass);
     SendRequestToOwner(Request(
         u"ProcessSubscriberEvent",
         {QStringLiteral("cmdHelp"), QLatin1String(IsSelectorView() ? kSelectorHelp : kScheduleHelp), TypeName()}));
-    Ui().SetPointer(Pointer::Default);
+    if (alive)
+        Ui().SetPointer(Pointer::Default);
 }
 
 void ctlSchedule::Save()
 {
-    if (!IsScheduleView())
-        return;
-    const bool wasDirty = m_engine.TagDataDirty();
-    SetTagDataDirty(false);
+    if (IsScheduleView())
+        SendEdits();
+}
+
+/// Flag and marks go before the edits are sent: what is edited while the host saves is not part of it.
+void ctlSchedule::SendEdits()
+{
+    const QPointer<ctlSchedule> alive(this);
+    const UnsavedEdits unsaved = TakeUnsaved();
     try {
         UpdateTagScheduleData();
     } catch (...) {
-        SetTagDataDirty(wasDirty);
+        if (alive)
+            PutBack(unsaved);
         throw;
     }
-    ForgetUnsaved();
 }
 
 void ctlSchedule::UpdateTagScheduleData()
@@ -102,45 +119,36 @@ void ctlSchedule::UpdateTagScheduleData()
 void ctlSchedule::cmdCancel_Click()
 {
     TellingUser(__func__, [this] {
-        CommitCellEdit();
-        if (MayUnload())
+        const QPointer<ctlSchedule> alive(this);
+        BeginCommand();
+        if (MayUnload() && alive)
             Unload();
     });
 }
 
-void ctlSchedule::Unload()
-{
-    m_unloaded = true;
-    try {
-        SendEventToOwner(Event(u"UnloadSchedule", {QStringLiteral("True")}));
-    } catch (...) {
-        m_unloaded = false;
-        throw;
-    }
-}
-
+/// The host may take the view away while the question stands or while it saves.
 bool ctlSchedule::MayUnload()
 {
     if (!m_engine.TagDataDirty())
         return true;
-    switch (Ui().Show({QLatin1String(kSaveQuestion), kYesNoCancel, LoadResString(kUnsavedChangesTitle)})) {
-    case Answer::Yes:
-        SaveBeforeUnloading();
-        return true;
-    case Answer::No:
-        return true;
-    default:
-        return false;
-    }
+    const QPointer<ctlSchedule> alive(this);
+    const Answer answer = Ui().Show({QLatin1String(kSaveQuestion), kYesNoCancel, LoadResString(kUnsavedChangesTitle)});
+    if (alive && answer == Answer::Yes && IsScheduleView())
+        SendEdits();
+    return answer == Answer::Yes || answer == Answer::No;
 }
 
-void ctlSchedule::SaveBeforeUnloading()
+void ctlSchedule::Unload()
 {
-    if (!IsScheduleView())
-        return;
-    UpdateTagScheduleData();
-    SetTagDataDirty(false);
-    ForgetUnsaved();
+    const QPointer<ctlSchedule> alive(this);
+    m_unloaded = true;
+    try {
+        SendEventToOwner(Event(u"UnloadSchedule", {QStringLiteral("True")}));
+    } catch (...) {
+        if (alive)
+            m_unloaded = false;
+        throw;
+    }
 }
 
 } // namespace schedules

@@ -74,6 +74,9 @@ void ctlSchedule::AddMenu(const QString& sOwner, const QString& sKey, int lImage
                           const QString& sToolTipText, bool bVisible, int lToolType)
 {
     TellingUser(__func__, [&] {
+        // The view's own tools may not be there yet, but their keys are taken.
+        if (IsScheduleTool(sKey))
+            return;
         m_toolbar->AddHostTool({sOwner, sKey, lImage, sText, sToolTipText, bVisible, static_cast<ToolKind>(lToolType)});
     });
 }

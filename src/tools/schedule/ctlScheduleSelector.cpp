@@ -1,90 +1,66 @@
-// Check boxes: ticking them, and what the ticked tags are.
+// Check boxes, and what the user has picked with them.
 
-#include "common/Module1.h"
 #include "common/StringNumbers.h"
 #include "common/modResource.h"
 #include "controls/SpreadView.h"
-#include "framework/Message.h"
 #include "spread/RepaintingOff.h"
+#include "tools/schedule/CellEditing.h"
+#include "tools/schedule/TagTable.h"
 #include "tools/schedule/ctlSchedule.h"
+
+#include <QKeyEvent>
 
 namespace schedules {
 
-namespace {
-
-constexpr auto kTicked = "1";
-constexpr auto kNotTicked = "0";
-
-QString BoxText(bool ticked)
-{
-    return QLatin1String(ticked ? kTicked : kNotTicked);
-}
-
-bool IsTicked(const Sheet& sheet, Cell cell)
-{
-    return sheet.Utf8(cell) == kTicked;
-}
-
-/// Where a table of tags has them: one after the other along its rows or its columns.
-struct TagTable
-{
-    const Sheet& sheet;
-    bool tagsAreColumns;
-
-    int Count() const { return tagsAreColumns ? sheet.ColumnCount() : sheet.RowCount(); }
-    Cell Identifier(int tag) const { return At(tag, 1); }
-    Cell CheckBox(int tag) const { return At(tag, 2); }
-
-private:
-    Cell At(int tag, int field) const
-    {
-        return tagsAreColumns ? Cell{Column(tag), Row(field)} : Cell{Column(field), Row(tag)};
-    }
-};
-
-QString TagElement(const QString& identifier)
-{
-    return ElementText(QStringLiteral("Tag"), ElementText(QStringLiteral("Id"), EscapedXml(identifier)));
-}
-
-} // namespace
-
 void ctlSchedule::ConnectCheckBoxes()
 {
+    m_spread->installEventFilter(this);
     m_spread->SetSweeps([this](Cell cell) { return IsSelectorView() && Toggles(cell); });
     connect(m_spread, &SpreadView::SweepStarted, this, &ctlSchedule::StartSweep);
     connect(m_spread, &SpreadView::SweptOver, this, &ctlSchedule::Sweep);
-    connect(m_spread, &SpreadView::CellClicked, this, &ctlSchedule::ClickCheckBox);
+    connect(m_spread, &SpreadView::CellClicked, this, &ctlSchedule::ToggleCheckBox);
 }
 
 bool ctlSchedule::Toggles(Cell cell) const
 {
     if (!m_sheet || m_sheet->Style(cell).type != CellType::CheckBox)
         return false;
-    return IsSelectorView() || IsEditableCheckBox(cell);
+    return IsSelectorView() || m_editing->IsEditableCheckBox(cell);
 }
 
 void ctlSchedule::SetTicked(Cell cell, bool ticked)
 {
-    if (ticked == IsTicked(*m_sheet, cell))
+    if (!Toggles(cell) || ticked == IsTicked(*m_sheet, cell))
         return;
-    if (IsSelectorView()) {
-        m_sheet->SetText(cell, BoxText(ticked));
-        return;
-    }
-    ChangeCell(cell, BoxText(ticked));
-    FollowTagDataDirty();
+    if (IsSelectorView())
+        m_sheet->SetText(cell, CheckBoxText(ticked));
+    else
+        ChangeCell(cell, CheckBoxText(ticked));
 }
 
 void ctlSchedule::ToggleCheckBox(Cell cell)
 {
-    IgnoringErrors([&] { SetTicked(cell, !IsTicked(*m_sheet, cell)); });
+    IgnoringErrors([&] {
+        if (Toggles(cell))
+            SetTicked(cell, !IsTicked(*m_sheet, cell));
+    });
 }
 
-void ctlSchedule::ClickCheckBox(Cell cell)
+bool ctlSchedule::eventFilter(QObject* watched, QEvent* event)
 {
-    if (Toggles(cell))
-        ToggleCheckBox(cell);
+    if (watched != m_spread || event->type() != QEvent::KeyPress)
+        return ToolControl::eventFilter(watched, event);
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    return key.key() == Qt::Key_Space && key.modifiers() == Qt::NoModifier && PressSpace(key.isAutoRepeat());
+}
+
+bool ctlSchedule::PressSpace(bool isHeldDown)
+{
+    if (!m_sheet || !Toggles(m_sheet->ActiveCell()))
+        return false;
+    if (!isHeldDown)
+        ToggleCheckBox(m_sheet->ActiveCell());
+    return true;
 }
 
 void ctlSchedule::StartSweep(Cell cell)
@@ -95,45 +71,35 @@ void ctlSchedule::StartSweep(Cell cell)
 
 void ctlSchedule::Sweep(Cell cell)
 {
-    IgnoringErrors([&] {
-        if (Toggles(cell))
-            SetTicked(cell, m_sweepTicks);
-    });
+    IgnoringErrors([&] { SetTicked(cell, m_sweepTicks); });
 }
 
-void ctlSchedule::TickVisible(bool (*ticks)(bool ticked))
+void ctlSchedule::TickVisible(Ticking ticking)
 {
+    if (!m_sheet || !IsSelectorView())
+        return;
     const RepaintingOff off(*m_sheet);
     for (const Cell cell : m_sheet->CellsOfType(CellType::CheckBox)) {
-        if (!m_sheet->Hidden(cell.column) && !m_sheet->Hidden(cell.row))
-            SetTicked(cell, ticks(IsTicked(*m_sheet, cell)));
+        if (m_sheet->Hidden(cell.column) || m_sheet->Hidden(cell.row))
+            continue;
+        SetTicked(cell, ticking == Ticking::Invert ? !IsTicked(*m_sheet, cell) : ticking == Ticking::All);
     }
 }
 
-std::pair<int, QString> ctlSchedule::GetSelectedTags() const
+SelectedTags ctlSchedule::GetSelectedTags() const
 {
-    int count = 0;
-    QString tags;
-    if (IsSelectorView() && m_sheet) {
-        const TagTable table{*m_sheet, m_engine.SchedOrientation() == 1};
-        for (int tag = 1; tag <= table.Count(); ++tag) {
-            const QString identifier = m_sheet->Text(table.Identifier(tag));
-            if (identifier.isEmpty() || !IsTicked(*m_sheet, table.CheckBox(tag)))
-                continue;
-            tags += TagElement(identifier);
-            ++count;
-        }
-    }
-    return {count, ElementText(QStringLiteral("Tags"), tags)};
+    if (!IsSelectorView() || !m_sheet)
+        return TickedTags(Sheet(), Tags::AreRows);
+    return TickedTags(*m_sheet, m_engine.SchedOrientation() == 1 ? Tags::AreColumns : Tags::AreRows);
 }
 
 void ctlSchedule::cmdContinue_Click()
 {
     TellingHost(__func__, [this] {
-        CommitCellEdit();
-        const auto [count, tags] = GetSelectedTags();
-        if (count != 0) {
-            SendEventToOwner(Event(u"ContinueButton", {tags}));
+        BeginCommand();
+        const SelectedTags selected = GetSelectedTags();
+        if (selected.count != 0) {
+            SendEventToOwner(Event(u"ContinueButton", {selected.xml}));
             return;
         }
         Ui().Show({LoadResString(kNoTagSelected) + QStringLiteral("\r\n\r\n") + LoadResString(kSelectTagToContinue),
@@ -144,9 +110,9 @@ void ctlSchedule::cmdContinue_Click()
 void ctlSchedule::PrintSelections()
 {
     TellingHost(__func__, [this] {
-        const auto [count, tags] = GetSelectedTags();
-        if (count != 0) {
-            SendEventToOwner(Event(u"PrintSelections", {tags, m_builderPdsg}));
+        const SelectedTags selected = GetSelectedTags();
+        if (selected.count != 0) {
+            SendEventToOwner(Event(u"PrintSelections", {selected.xml, m_builderPdsg}));
             return;
         }
         Ui().Show({LoadResString(kNothingToPrint) + QStringLiteral("\r\n\r\n") + LoadResString(kSelectTagToPrint) +
