@@ -452,7 +452,7 @@ TEST_F(ToolbarDropDown, CanBeClosedWithoutAChoice)
     Show();
     OpenedBy([this] { Press("btnExport", Qt::Key_Down); }, [](QMenu& menu) { QTest::keyClick(&menu, Qt::Key_Escape); });
     EXPECT_EQ(Clicks(), "");
-    EXPECT_TRUE(Button("btnExport")->hasFocus());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Button("btnExport")->hasFocus(); }));
 }
 
 TEST_F(ToolbarDropDown, IsClosedWhileTheToolIsDisabled)
