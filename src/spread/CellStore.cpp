@@ -153,6 +153,12 @@ CellStyle CellStore::Style(int line, int slot) const
     return cell ? m_styles[cell->style] : CellStyle{};
 }
 
+CellStore::Content CellStore::At(int line, int slot) const
+{
+    const StoredCell* cell = Find(line, slot);
+    return cell ? Content{TextOf(*cell), m_styles[cell->style]} : Content{};
+}
+
 int CellStore::SlotCount(int line) const
 {
     return line >= 0 && line < LineCount() ? static_cast<int>(m_lines[line].count) : 0;

@@ -33,6 +33,15 @@ public:
     std::string_view Text(int line, int slot) const;
     CellStyle Style(int line, int slot) const;
 
+    /// Both at once.
+    struct Content
+    {
+        std::string_view text;
+        CellStyle style;
+    };
+
+    Content At(int line, int slot) const;
+
     /// Calls `visit(slot, text, style)` for each slot of the line that holds data, in order.
     template <class Visit>
     void ForEachIn(int line, Visit&& visit) const

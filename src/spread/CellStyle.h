@@ -22,6 +22,12 @@ enum class DataType : std::uint8_t
     Number
 };
 
+/// Whether a data type is one of numbers.
+constexpr bool IsNumeric(DataType type)
+{
+    return type != DataType::Text && type != DataType::CheckBox;
+}
+
 /// What a cell is, beside its text. Few different ones occur in a table, however large it is.
 struct CellStyle
 {

@@ -29,11 +29,6 @@ struct KeyedRow
     double number = 0;
 };
 
-bool IsNumeric(DataType type)
-{
-    return type != DataType::Text && type != DataType::CheckBox;
-}
-
 /// The C locale has no collation, only the order of bytes; English has the one that all others refine.
 QLocale CollationOf(const QLocale& locale)
 {

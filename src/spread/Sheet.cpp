@@ -62,6 +62,12 @@ std::string_view Sheet::Utf8(Cell cell) const
     return m_store.Text(place.line, place.slot);
 }
 
+CellStore::Content Sheet::Content(Cell cell) const
+{
+    const TablePlace place = TablePlaceOf(cell);
+    return m_store.At(place.line, place.slot);
+}
+
 QString Sheet::Text(Cell cell) const
 {
     const std::string_view text = Utf8(cell);
@@ -148,6 +154,17 @@ void Sheet::SetVAlign(const CellRange& range, VerticalAlignment alignment)
 void Sheet::SetWraps(const CellRange& range, bool wraps)
 {
     m_wraps.Set(range, wraps);
+    TellChanged();
+}
+
+void Sheet::AdoptLooks(const Sheet& source, std::span<const int> columns, std::span<const int> rows)
+{
+    m_backColors = source.m_backColors.Picked(columns, rows);
+    m_bold = source.m_bold.Picked(columns, rows);
+    m_hAlign = source.m_hAlign.Picked(columns, rows);
+    m_vAlign = source.m_vAlign.Picked(columns, rows);
+    m_wraps = source.m_wraps.Picked(columns, rows);
+    m_widest.clear();
     TellChanged();
 }
 

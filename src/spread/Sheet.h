@@ -14,6 +14,7 @@
 #include <concepts>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace schedules {
@@ -46,7 +47,8 @@ public:
 
     // Cells.
     QString Text(Cell cell) const;
-    std::string_view Utf8(Cell cell) const; ///< valid until the sheet changes
+    std::string_view Utf8(Cell cell) const;      ///< valid until the sheet changes
+    CellStore::Content Content(Cell cell) const; ///< text and style; valid until the sheet changes
     void SetText(Cell cell, const QString& text);
     CellStyle Style(Cell cell) const;
     void SetStyle(Cell cell, CellStyle style);
@@ -105,6 +107,12 @@ public:
     void SetVAlign(const CellRange& range, VerticalAlignment alignment);
     bool Wraps(Cell cell) const { return m_wraps.At(cell); }
     void SetWraps(const CellRange& range, bool wraps);
+
+    /// Every back color that has been set and may show somewhere.
+    std::vector<std::optional<std::uint32_t>> BackColorsSet() const { return m_backColors.Values(); }
+
+    /// Takes over the looks of these columns and rows of another sheet, each counted from 1 here.
+    void AdoptLooks(const Sheet& source, std::span<const int> columns, std::span<const int> rows);
 
     // Columns and rows.
     const Axis& Columns() const { return m_columns; }

@@ -72,6 +72,20 @@ private:
     rlimit m_before{};
 };
 
+/// Someone who may not write everywhere, as long as it lives.
+class OrdinaryUser
+{
+public:
+    OrdinaryUser() : m_before(::geteuid()) { EXPECT_TRUE(m_before != 0 || ::seteuid(kNobody) == 0); }
+    ~OrdinaryUser() { EXPECT_TRUE(m_before != 0 || ::seteuid(m_before) == 0); }
+    Q_DISABLE_COPY_MOVE(OrdinaryUser)
+
+private:
+    static constexpr uid_t kNobody = 65534;
+
+    uid_t m_before;
+};
+
 /// A file system of 64 KiB, as long as it lives.
 class TinyDisk
 {
@@ -120,8 +134,7 @@ TEST_F(ReplaceFileTest, WritesWhatACallWrites)
 
 TEST_F(ReplaceFileTest, WritesThroughTheHandleToo)
 {
-    ReplaceFile(In("plan.xls"),
-                [](QFileDevice& device) { ASSERT_EQ(::write(device.handle(), "by handle", 9), 9); });
+    ReplaceFile(In("plan.xls"), [](QFileDevice& device) { ASSERT_EQ(::write(device.handle(), "by handle", 9), 9); });
     EXPECT_EQ(ContentOf(In("plan.xls")), "by handle");
 }
 
@@ -165,13 +178,16 @@ TEST_F(ReplaceFileTest, AFolderThatIsGoneIsAnError)
 
 TEST_F(ReplaceFileTest, AnUnwritableFolderIsAnError)
 {
-    if (::geteuid() == 0)
-        GTEST_SKIP() << "this user may write everywhere";
     Put(In("plan.xls"), "old");
-    ASSERT_EQ(::chmod(folder.path().toLocal8Bit().constData(), 0500), 0);
-    EXPECT_THAT(Failure(In("plan.xls"), "new"), ::testing::HasSubstr("Permission denied"));
-    EXPECT_EQ(ContentOf(In("plan.xls")), "old");
+    ASSERT_EQ(::chmod(folder.path().toLocal8Bit().constData(), 0555), 0);
+    {
+        const OrdinaryUser user;
+        EXPECT_THAT(Failure(In("plan.xls"), "new"), ::testing::HasSubstr("Permission denied"));
+        EXPECT_THAT(Failure(In("other.xls"), "new"), ::testing::HasSubstr("Permission denied"));
+    }
     ASSERT_EQ(::chmod(folder.path().toLocal8Bit().constData(), 0700), 0);
+    EXPECT_EQ(ContentOf(In("plan.xls")), "old");
+    EXPECT_EQ(Files(), QStringList{"plan.xls"});
 }
 
 TEST_F(ReplaceFileTest, AReadOnlyFileSystemIsAnError)

@@ -1,0 +1,77 @@
+#include "spread/FileLook.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace schedules {
+
+namespace {
+
+constexpr std::string_view kBlanks = " \t\r\n\f\v";
+
+/// As 0xRRGGBB, in the order of their numbers.
+constexpr std::array<std::uint32_t, 31> kSystemColors{
+    0xC8C8C8, 0xF0F0F0, 0x99B4D1, 0xBFCDDB, 0xF0F0F0, 0xFFFFFF, 0x646464, 0x000000, 0x000000, 0x000000, 0xB4B4B4,
+    0xF4F7FC, 0xABABAB, 0x0078D7, 0xFFFFFF, 0xF0F0F0, 0xA0A0A0, 0x6D6D6D, 0x000000, 0x000000, 0xFFFFFF, 0x696969,
+    0xE3E3E3, 0x000000, 0xFFFFE1, 0xFFFFFF, 0x0066CC, 0xB9D1EA, 0xD7E4F2, 0x0078D7, 0xF0F0F0};
+
+constexpr std::uint32_t kWhite = 0xFFFFFF;
+
+std::uint32_t RedAndBlueSwapped(std::uint32_t color)
+{
+    return (color & 0xFF) << 16 | (color & 0xFF00) | (color >> 16 & 0xFF);
+}
+
+std::string_view Trimmed(std::string_view text)
+{
+    const std::size_t first = text.find_first_not_of(kBlanks);
+    return first == text.npos ? std::string_view() : text.substr(first, text.find_last_not_of(kBlanks) + 1 - first);
+}
+
+bool IsDigit(char character)
+{
+    return character >= '0' && character <= '9';
+}
+
+double Linear(std::uint32_t channel)
+{
+    const double share = (channel & 0xFF) / 255.0;
+    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+}
+
+} // namespace
+
+bool ReadsAsNumber(std::string_view utf8)
+{
+    std::string_view digits = Trimmed(utf8);
+    if (digits.starts_with('+') || digits.starts_with('-'))
+        digits.remove_prefix(1);
+    const auto isPart = [](char character) { return IsDigit(character) || character == '.' || character == ','; };
+    return std::ranges::all_of(digits, isPart) && std::ranges::any_of(digits, IsDigit);
+}
+
+CellEdge EdgeOf(HorizontalAlignment alignment, CellStyle style, std::string_view utf8)
+{
+    if (style.type == CellType::CheckBox || alignment == HorizontalAlignment::Center)
+        return CellEdge::Center;
+    if (alignment == HorizontalAlignment::Data && (IsNumeric(style.dataType) || ReadsAsNumber(utf8)))
+        return CellEdge::Far;
+    return CellEdge::Near;
+}
+
+std::uint32_t FixedColor(std::uint32_t number)
+{
+    if (!(number & kSystemColorFlag))
+        return number & 0xFFFFFF;
+    const std::uint32_t index = number & ~kSystemColorFlag;
+    return index < kSystemColors.size() ? RedAndBlueSwapped(kSystemColors[index]) : kWhite;
+}
+
+bool NeedsWhiteText(std::uint32_t color)
+{
+    const double luminance = 0.2126 * Linear(color) + 0.7152 * Linear(color >> 8) + 0.0722 * Linear(color >> 16);
+    return (luminance + 0.05) * (luminance + 0.05) < 1.05 * 0.05;
+}
+
+} // namespace schedules

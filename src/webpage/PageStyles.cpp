@@ -1,0 +1,113 @@
+#include "webpage/PageStyles.h"
+
+#include <QString>
+
+#include <array>
+#include <cmath>
+
+namespace schedules {
+
+namespace {
+
+constexpr std::uint32_t kButtonFace = 0x8000000F;
+constexpr std::uint32_t kDarkPaper = 0x1A1714; ///< as it stands in the rules below, red lowest
+
+/// What every page has. Headers stay in sight while the table is scrolled, colors follow the reader's system, and on
+/// paper the header row comes again on each page.
+constexpr std::string_view kCommonRules = R"css(
+:root{--paper:#fff;--ink:#1b1f24;--line:#ccd1d6;--face:#eef1f4;color-scheme:light dark}
+@media screen and (prefers-color-scheme:dark){:root{--paper:#14171a;--ink:#e4e7ea;--line:#3b4148;--face:#22272c}}
+*{box-sizing:border-box}
+body{margin:0;background:var(--paper);color:var(--ink);font:.875rem/1.4 Arial,"Liberation Sans",sans-serif}
+.page{overflow:auto;max-height:100vh}
+.page:focus-visible{outline:2px solid #2f6fb0;outline-offset:-2px}
+table{border-collapse:separate;border-spacing:0;width:max-content;margin:0 1rem 1rem;border:solid var(--line);border-width:1px 0 0 1px}
+caption{padding:1rem 0 .5rem;font-size:1.25rem;font-weight:bold;text-align:start}
+th,td{padding:.2em .6em;max-width:32em;border:solid var(--line);border-width:0 1px 1px 0;text-align:start;vertical-align:top;font-weight:normal;white-space:pre-wrap;overflow-wrap:break-word;unicode-bidi:plaintext}
+th{background:var(--face)}
+thead th,thead td{position:sticky;top:0;z-index:1;background:var(--face);font-weight:bold;vertical-align:bottom}
+tbody th{position:sticky;inset-inline-start:0}
+.b{font-weight:bold}
+.c{text-align:center}
+.n{text-align:end;font-variant-numeric:tabular-nums;white-space:pre}
+.m{vertical-align:middle}
+.e{vertical-align:bottom}
+.s{background:var(--face)}
+@media (max-width:40em){body{font-size:.8125rem}table{margin:0 .5rem .5rem}tbody th{max-width:9em}}
+@page{size:landscape;margin:10mm}
+@media print{:root{--ink:#000;--line:#999;--face:#eee}body{font-size:7pt}.page{overflow:visible;max-height:none}table{width:auto;margin:0}th,td{padding:.15em .35em;position:static!important;-webkit-print-color-adjust:exact;print-color-adjust:exact}thead{display:table-header-group}tr{break-inside:avoid}}
+)css";
+
+std::string Hex(std::uint32_t color)
+{
+    return QStringLiteral("#%1%2%3")
+        .arg(color & 0xFF, 2, 16, QLatin1Char('0'))
+        .arg(color >> 8 & 0xFF, 2, 16, QLatin1Char('0'))
+        .arg(color >> 16 & 0xFF, 2, 16, QLatin1Char('0'))
+        .toStdString();
+}
+
+/// A tint of the color on the dark page, faint enough for light text.
+std::uint32_t InTheDark(std::uint32_t color)
+{
+    constexpr double kShare = 0.28;
+    std::uint32_t tint = 0;
+    for (const int shift : {0, 8, 16}) {
+        const double mixed = (color >> shift & 0xFF) * kShare + (kDarkPaper >> shift & 0xFF) * (1 - kShare);
+        tint |= static_cast<std::uint32_t>(std::lround(mixed)) << shift;
+    }
+    return tint;
+}
+
+std::string ColorRule(const std::string& name, std::uint32_t color)
+{
+    const std::string ink = NeedsWhiteText(color) ? "#fff" : "#000";
+    return "." + name + "{background:" + Hex(color) + "!important;color:" + ink + "}\n" +
+           "@media screen and (prefers-color-scheme:dark){." + name + "{background:" + Hex(InTheDark(color)) +
+           "!important;color:var(--ink)}}\n";
+}
+
+} // namespace
+
+std::uint32_t PageFill(std::optional<std::uint32_t> backColor)
+{
+    if (!backColor)
+        return PageLook::kNoFill;
+    return *backColor == kButtonFace ? PageLook::kFaceFill : FixedColor(*backColor);
+}
+
+PageStyles::PageStyles(const Sheet& sheet) : m_colorClasses{{PageLook::kFaceFill, "s"}}
+{
+    for (const auto color : sheet.BackColorsSet()) {
+        if (color)
+            m_colorClasses.try_emplace(PageFill(color), std::string("k").append(std::to_string(m_colorClasses.size())));
+    }
+}
+
+std::string PageStyles::ClassesOf(const PageLook& look) const
+{
+    constexpr std::array<std::string_view, 3> kEdges{"", "c", "n"};
+    constexpr std::array<std::string_view, 3> kHeights{"", "e", "m"};
+    std::string classes;
+    const auto add = [&classes](std::string_view name) {
+        classes.append(classes.empty() || name.empty() ? "" : " ").append(name);
+    };
+    add(look.bold ? "b" : "");
+    add(kEdges[static_cast<std::size_t>(look.edge)]);
+    add(kHeights[static_cast<std::size_t>(look.vAlign)]);
+    if (look.fill != PageLook::kNoFill)
+        add(m_colorClasses.at(look.fill));
+    return classes;
+}
+
+std::string PageStyles::Rules() const
+{
+    std::string rules(kCommonRules);
+    for (const auto& [color, name] : m_colorClasses) {
+        if (color != PageLook::kFaceFill)
+            rules += ColorRule(name, color);
+    }
+    return rules;
+}
+
+} // namespace schedules

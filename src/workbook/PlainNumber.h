@@ -1,0 +1,22 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+namespace schedules {
+
+/// A number as a text shows it.
+struct PlainNumber
+{
+    double value = 0;
+    int decimals = 0;
+
+    bool operator==(const PlainNumber&) const = default;
+};
+
+/// The number in a text that a spreadsheet shows just so when it is given the value and the number of decimals: digits,
+/// with a minus sign in front and a decimal point or comma within at most. Nothing for any other text, such as "007",
+/// "+5", "-0", ".5" or one of more than 15 digits; nor for "1,234", which some read as more than a thousand.
+std::optional<PlainNumber> PlainNumberIn(std::string_view utf8);
+
+} // namespace schedules

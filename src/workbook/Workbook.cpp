@@ -1,0 +1,40 @@
+#include "workbook/Workbook.h"
+
+#include "common/FileReplacement.h"
+#include "workbook/Globals.h"
+#include "workbook/OleContainer.h"
+#include "workbook/SheetName.h"
+#include "workbook/SheetRecords.h"
+
+namespace schedules {
+
+namespace {
+
+void WritePlanned(const SheetPlan& plan, const QString& sheetName, WorkbookStream& stream)
+{
+    RecordWriter records(stream);
+    const std::uint32_t boundSheet = WriteGlobals(records, plan, LegalSheetName(sheetName));
+    std::string start;
+    Append(start, records.Position());
+    SheetRecords(records, plan).Write();
+    records.Patch(boundSheet, start);
+}
+
+} // namespace
+
+void WriteWorkbook(const Sheet& sheet, const QString& sheetName, const QString& fileName)
+{
+    const SheetPlan plan(sheet);
+    ReplaceFile(fileName, [&](QFileDevice& file) {
+        OleContainer container(file);
+        WritePlanned(plan, sheetName, container);
+        container.Close();
+    });
+}
+
+void WriteRecords(const Sheet& sheet, const QString& sheetName, WorkbookStream& stream)
+{
+    WritePlanned(SheetPlan(sheet), sheetName, stream);
+}
+
+} // namespace schedules

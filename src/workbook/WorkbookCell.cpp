@@ -1,0 +1,41 @@
+#include "workbook/WorkbookCell.h"
+
+namespace schedules {
+
+WorkbookCell WorkbookCellOf(const Sheet& sheet, Cell cell)
+{
+    const auto [text, style] = sheet.Content(cell);
+    WorkbookCell content;
+    content.text = text;
+    if (text.empty())
+        return content;
+    content.kind = WorkbookCell::Kind::Text;
+    if (!IsNumeric(style.dataType) && style.type != CellType::CheckBox)
+        return content;
+    if (const auto number = PlainNumberIn(text)) {
+        content.kind = WorkbookCell::Kind::Number;
+        content.number = *number;
+    }
+    return content;
+}
+
+WorkbookLook WorkbookLookOf(const Sheet& sheet, Cell cell, const WorkbookCell& content)
+{
+    WorkbookLook look;
+    if (const auto color = sheet.BackColor(cell))
+        look.fill = FixedColor(*color);
+    look.bold = sheet.Bold(cell);
+    look.edge = EdgeOf(sheet.HAlign(cell), sheet.Style(cell), content.text);
+    look.vAlign = sheet.VAlign(cell);
+    look.wraps = sheet.Wraps(cell);
+    if (content.kind == WorkbookCell::Kind::Number)
+        look.decimals = static_cast<std::int8_t>(content.number.decimals);
+    return look;
+}
+
+std::string NumberFormat(int decimals)
+{
+    return decimals > 0 ? "0." + std::string(static_cast<std::size_t>(decimals), '0') : "0";
+}
+
+} // namespace schedules

@@ -1,0 +1,61 @@
+#include "workbook/CsvWriter.h"
+
+#include "common/Error.h"
+#include "workbook/ReadBack.h"
+
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+using namespace schedules;
+using namespace schedules::testing;
+
+TEST(CsvField, APlainTextStaysAsItIs)
+{
+    EXPECT_EQ(CsvField(""), "");
+    EXPECT_EQ(CsvField("P-101A"), "P-101A");
+    EXPECT_EQ(CsvField("насос; вода"), "насос; вода");
+    EXPECT_EQ(CsvField("007"), "007");
+}
+
+TEST(CsvField, CommasQuotesAndLineBreaksAreQuoted)
+{
+    EXPECT_EQ(CsvField("a,b"), "\"a,b\"");
+    EXPECT_EQ(CsvField("3\" pipe"), "\"3\"\" pipe\"");
+    EXPECT_EQ(CsvField("two\nlines"), "\"two\nlines\"");
+    EXPECT_EQ(CsvField("two\r\nlines"), "\"two\r\nlines\"");
+}
+
+TEST(CsvField, WhatWouldRunAsAFormulaGetsAnApostrophe)
+{
+    EXPECT_EQ(CsvField("=1+1"), "'=1+1");
+    EXPECT_EQ(CsvField("+cmd|' /C calc'!A0"), "'+cmd|' /C calc'!A0");
+    EXPECT_EQ(CsvField("-2+3"), "'-2+3");
+    EXPECT_EQ(CsvField("@SUM(1,2)"), "\"'@SUM(1,2)\"");
+    EXPECT_EQ(CsvField("\t=1"), "'\t=1");
+    EXPECT_EQ(CsvField("\r=1"), "\"'\r=1\"");
+    EXPECT_EQ(CsvField("-"), "'-");
+}
+
+TEST(CsvField, PlainNumbersGetNone)
+{
+    EXPECT_EQ(CsvField("-5"), "-5");
+    EXPECT_EQ(CsvField("+12.5"), "+12.5");
+    EXPECT_EQ(CsvField("-12,5"), "\"-12,5\"");
+}
+
+TEST(CsvWriter, WritesRowsOfFields)
+{
+    WrittenSheet written;
+    Fill(written.sheet, {{"Tag", "Flow (m³/h)"}, {"P-1", ""}, {"=P", "1,5"}});
+    WriteCsv(written.sheet, written.FileName());
+    QFile file(written.FileName());
+    ASSERT_TRUE(file.open(QFile::ReadOnly));
+    EXPECT_EQ(file.readAll(), "Tag,Flow (m³/h)\r\nP-1,\r\n'=P,\"1,5\"\r\n");
+}
+
+TEST(CsvWriter, AFolderThatIsGoneIsAnError)
+{
+    WrittenSheet written;
+    EXPECT_THROW(WriteCsv(written.sheet, written.folder.filePath(QStringLiteral("gone/a.csv"))), Error);
+}
