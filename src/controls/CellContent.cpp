@@ -16,11 +16,6 @@ bool IsPlaceMark(QChar character)
     return character == u'.' || character == u',';
 }
 
-bool IsNumeric(DataType type)
-{
-    return type != DataType::Text && type != DataType::CheckBox;
-}
-
 QString OnOneLine(QString text)
 {
     const auto movesOn = [](QChar character) { return character < u' ' || character == QChar::LineSeparator; };

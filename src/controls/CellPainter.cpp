@@ -20,6 +20,12 @@ constexpr double kTwipsPerInch = 1440;
 /// Cell edges are rounded to pixels, so a text may have up to a pixel less than it measures; the padding has that room.
 constexpr double kRounding = 1;
 
+/// Less than this share of a line's height cannot be seen as an alignment.
+constexpr double kOneLineShare = 0.1;
+
+/// How far a text on paper may be narrowed.
+constexpr double kNarrowest = 0.5;
+
 constexpr double kOutlineShare = 0.5;
 
 /// Rounded down, so that texts lose no room.
@@ -38,6 +44,7 @@ QTextOption PlainTextOption(QTextOption::WrapMode wrapMode)
 
 void LayOutOnOneLine(QTextLayout& layout)
 {
+    layout.setCacheEnabled(true); // else it is shaped anew when it is drawn
     layout.beginLayout();
     layout.createLine();
     layout.endLayout();
@@ -47,6 +54,7 @@ void LayOutOnOneLine(QTextLayout& layout)
 double LayOutInWidth(QTextLayout& layout, double width)
 {
     double height = 0;
+    layout.setCacheEnabled(true);
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(width);
@@ -149,12 +157,20 @@ void CellPainter::PaintLine(const CellContent& content, const QRect& room)
     layout.setTextOption(PlainTextOption(QTextOption::NoWrap));
     LayOutOnOneLine(layout);
     const auto width = [&] { return layout.lineAt(0).naturalTextWidth() * m_faces.Scale(); };
-    if (width() > room.width() + kRounding) {
+    const double narrowing = NarrowingOf(width(), room.width() + kRounding);
+    if (width() * narrowing > room.width() + kRounding) {
         layout.setText(m_faces.Elided(content.text, content.bold, room.width()));
         LayOutOnOneLine(layout);
     }
     const double top = BaselineOf(content, room) - layout.lineAt(0).ascent() * m_faces.Scale();
-    DrawIn(room, layout, {LeftOf(width(), room, EdgeOf(content)), top}, m_faces.Height(content.bold));
+    const double left = LeftOf(width() * narrowing, room, EdgeOf(content));
+    DrawIn(room, layout, {left, top}, m_faces.Height(content.bold), narrowing);
+}
+
+double CellPainter::NarrowingOf(double width, double room) const
+{
+    const bool stays = width <= room || m_look.drawing == TextDrawing::Fast || room < kNarrowest * width;
+    return stays ? 1 : room / width;
 }
 
 double CellPainter::BaselineOf(const CellContent& content, const QRect& room) const
@@ -175,14 +191,18 @@ void CellPainter::PaintLines(const CellContent& content, const QRect& room)
     DrawIn(room, layout, {static_cast<double>(room.left()), std::round(TopOf(content, room, height))}, height);
 }
 
-void CellPainter::DrawIn(const QRect& room, const QTextLayout& layout, QPointF topLeft, double height)
+void CellPainter::DrawIn(const QRect& room, const QTextLayout& layout, QPointF topLeft, double height, double narrowing)
 {
     const QRect cell = room.adjusted(-m_padding, -m_verticalPadding, m_padding, m_verticalPadding);
+    if (height <= cell.height() && m_faces.Scale() * narrowing == 1) {
+        layout.draw(&m_painter, topLeft);
+        return;
+    }
     m_painter.save();
     if (height > cell.height())
         m_painter.setClipRect(cell, Qt::IntersectClip);
     m_painter.translate(topLeft);
-    m_painter.scale(m_faces.Scale(), m_faces.Scale());
+    m_painter.scale(m_faces.Scale() * narrowing, m_faces.Scale());
     layout.draw(&m_painter, {});
     m_painter.restore();
 }
@@ -210,8 +230,9 @@ double CellPainter::LeftOf(double width, const QRect& room, Edge edge) const
 double CellPainter::TopOf(const CellContent& content, const QRect& room, double height) const
 {
     const double spare = room.height() - height;
-    // Rows of one line have a pixel of rounding to spare; without this, alignments would show as ragged baselines.
-    const bool isOneLineRow = spare < 2 * kRounding;
+    // Rows of one line have a little to spare, by rounding or on paper, where the face may be lower than on screen;
+    // without this, alignments would show as ragged baselines.
+    const bool isOneLineRow = spare < std::max(2 * kRounding, kOneLineShare * height);
     if (isOneLineRow || content.vAlign == VerticalAlignment::Center)
         return room.top() + std::max(spare, 0.0) / 2;
     return room.top() + (content.vAlign == VerticalAlignment::Bottom ? spare : 0);

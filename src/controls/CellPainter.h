@@ -32,7 +32,8 @@ struct CellLook
 /// Paints what stands in a cell, on screen or on paper: text or check box, on a ground that the caller has painted.
 ///
 /// Sizes follow the resolution of what is painted on. Texts keep their linear widths at any resolution, so what fits
-/// the measured width of a column is never cut off; other texts end in an ellipsis.
+/// the measured width of a column is never cut off; other texts end in an ellipsis. Drawn as text, they are narrowed to
+/// their cell first, down to half their width: paper cannot be scrolled or widened.
 class CellPainter
 {
 public:
@@ -68,7 +69,8 @@ private:
     bool PaintGlyphs(const CellContent& content, const QRect& room);
     void DrawGlyphs(bool bold);
     void PaintLines(const CellContent& content, const QRect& room);
-    void DrawIn(const QRect& room, const QTextLayout& layout, QPointF topLeft, double height);
+    double NarrowingOf(double width, double room) const;
+    void DrawIn(const QRect& room, const QTextLayout& layout, QPointF topLeft, double height, double narrowing = 1);
     void PaintCheckBox(const CellContent& content, const QRect& cell, const QColor& ground);
     QPalette IndicatorPalette(const QColor& ground) const;
     void PaintPaperBox(const QRectF& box, bool ticked);

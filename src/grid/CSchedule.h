@@ -2,10 +2,14 @@
 
 #include "common/UserInterface.h"
 #include "grid/ScheduleTable.h"
+#include "spread/PrintSetup.h"
 #include "spread/Sheet.h"
 
+#include <QDateTime>
 #include <QString>
 
+#include <cstdint>
+#include <functional>
 #include <vector>
 
 namespace schedules {
@@ -81,6 +85,72 @@ public:
     QString Title() const;
     void SetTitle(const QString& title) { m_title = title; }
 
+    /// What prints; none until it is set. The caller keeps owning it.
+    void SetSheetPrinter(ISheetPrinter* printer) { m_printer = printer; }
+
+    /// The clock that page headers are dated by; the computer's until another one is set.
+    using Clock = std::function<QDateTime()>;
+    void SetClock(Clock clock) { m_clock = std::move(clock); }
+
+    /// Prints the whole sheet. A failure is told to the shared reporter, and nothing is printed then.
+    void PrintSched();
+
+    /// The header of every page in print codes (see spread/PrintCodes.h): the title as it stands, centred, and, with
+    /// `PrintHeader`, date and time at the right. The title's own slashes are not protected in it, unlike in what
+    /// `PrintSched` hands to the printer.
+    QString GetPageHeader() const;
+
+    /// Whether all columns are fitted on a page, by turning it and scaling down.
+    bool SmartPrint() const { return m_smartPrint; }
+    void SetSmartPrint(bool smart) { m_smartPrint = smart; }
+
+    bool PrintHeader() const { return m_printHeader; }
+    void SetPrintHeader(bool print) { m_printHeader = print; }
+
+    bool PrintBorder() const { return m_printBorder; }
+    void SetPrintBorder(bool print) { m_printBorder = print; }
+
+    bool PrintGrid() const { return m_printGrid; }
+    void SetPrintGrid(bool print) { m_printGrid = print; }
+
+    bool PrintColHeaders() const { return m_printColHeaders; }
+    void SetPrintColHeaders(bool print) { m_printColHeaders = print; }
+
+    bool PrintRowHeaders() const { return m_printRowHeaders; }
+    void SetPrintRowHeaders(bool print) { m_printRowHeaders = print; }
+
+    /// Whether headers are shaded.
+    bool PrintShadows() const { return m_printShadows; }
+    void SetPrintShadows(bool print) { m_printShadows = print; }
+
+    // These are kept for whoever set them; printing does not consult them.
+    QString PrintHeaderText() const { return m_printHeaderText; }
+    void SetPrintHeaderText(const QString& text) { m_printHeaderText = text; }
+
+    QString PrintFooterText() const { return m_printFooterText; }
+    void SetPrintFooterText(const QString& text) { m_printFooterText = text; }
+
+    bool PrintFooter() const { return m_printFooter; }
+    void SetPrintFooter(bool print) { m_printFooter = print; }
+
+    QString PrintJobName() const { return m_printJobName; }
+    void SetPrintJobName(const QString& name) { m_printJobName = name; }
+
+    QString PrintAbortMsg() const { return m_printAbortMsg; }
+    void SetPrintAbortMsg(const QString& text) { m_printAbortMsg = text; }
+
+    std::int16_t PrintPageStart() const { return m_printPageStart; }
+    void SetPrintPageStart(std::int16_t page) { m_printPageStart = page; }
+
+    std::int16_t PrintPageEnd() const { return m_printPageEnd; }
+    void SetPrintPageEnd(std::int16_t page) { m_printPageEnd = page; }
+
+    std::int16_t PrintType() const { return m_printType; }
+    void SetPrintType(std::int16_t type) { m_printType = type; }
+
+    bool PrintProjectProperties() const { return m_printProjectProperties; }
+    void SetPrintProjectProperties(bool print) { m_printProjectProperties = print; }
+
 private:
     /// Throws `Error` when no sheet is attached.
     void RequireSheet() const;
@@ -106,6 +176,10 @@ private:
     bool RowsActOnColumns() const { return m_schedOrientation == 1; }
     int WidthOf(Column column) const;
 
+    ISheetPrinter& RequiredPrinter() const;
+    void SetPrintOptions(ISheetPrinter& printer) const;
+    QString HeaderWith(const QString& title) const;
+
     UserInterface& m_userInterface;
     Sheet* m_sched = nullptr;
     int m_schedOrientation = 0;
@@ -120,6 +194,25 @@ private:
     std::vector<int> m_groupHeadings;
     int m_columnMargin = 0;
     int m_headerRowMinimumHeight = 0;
+
+    ISheetPrinter* m_printer = nullptr;
+    Clock m_clock = [] { return QDateTime::currentDateTime(); };
+    bool m_smartPrint = false;
+    bool m_printHeader = true;
+    bool m_printBorder = true;
+    bool m_printGrid = true;
+    bool m_printColHeaders = true;
+    bool m_printRowHeaders = true;
+    bool m_printShadows = false;
+    QString m_printHeaderText;
+    QString m_printFooterText;
+    bool m_printFooter = true;
+    QString m_printJobName;
+    QString m_printAbortMsg;
+    std::int16_t m_printPageStart = 0;
+    std::int16_t m_printPageEnd = 0;
+    std::int16_t m_printType = 0;
+    bool m_printProjectProperties = false;
 };
 
 } // namespace schedules
