@@ -139,13 +139,6 @@ TEST_F(ScheduleToolbarTest, TakesManySeparatorsWithoutAKey)
     EXPECT_EQ(std::ranges::count_if(actions, &QAction::isSeparator), 2);
 }
 
-TEST_F(ScheduleToolbarTest, ToolsWithoutACommandCannotBeClicked)
-{
-    Start(kScheduleView, kSchedule);
-    EXPECT_FALSE(Tool("btnPrint")->isEnabled() || Tool("btnExport")->isEnabled());
-    EXPECT_TRUE(Tool("btnTranspose")->isEnabled() && Tool("btnCustomize")->isEnabled());
-}
-
 TEST_F(ScheduleToolbarTest, HidesAToolThatTheHostWantsHidden)
 {
     AddMenu("locate", 0, false);

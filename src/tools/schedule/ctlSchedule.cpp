@@ -63,6 +63,7 @@ ctlSchedule::~ctlSchedule()
 void ctlSchedule::BuildControls()
 {
     m_sheet = new Sheet(this);
+    m_exported = Named<Sheet>("vaSpread2", this);
     m_customMessage = new CustomMessage(this);
     m_toolbar = new ScheduleToolbar(this);
     BuildGrid();

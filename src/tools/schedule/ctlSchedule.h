@@ -82,6 +82,14 @@ public:
     /// the table are shown as columns.
     Q_INVOKABLE void DoColSort();
 
+    /// Writes what the grid shows into a file: an Excel 97 workbook ("xls"), an Office Open XML one ("xlsx"),
+    /// comma-separated values ("csv") or a web page ("html"). Returns what went wrong, an empty text when it is done.
+    Q_INVOKABLE QString WriteFile(const QString& format, const QString& fileName);
+
+    /// Prints the grid into a PDF file, fitted to pages or at full size; `pageSize` is a `QPageSize::PageSizeId`.
+    /// Returns what went wrong, an empty text when it is done.
+    Q_INVOKABLE QString WritePdf(const QString& fileName, bool smart, int pageSize);
+
     /// Does what the tool of that key does, enabled or not; nothing for a key that is none of the view's.
     Q_INVOKABLE void ab_ToolClick(const QString& key);
 
@@ -136,7 +144,6 @@ private:
     // The controls around the grid.
     void InitializeControls();
     void AddToolbarButton(const QString& key, int image, const QString& caption, const QString& tooltip, bool visible);
-    bool HasCommand(const QString& key) const;
     void BuildExportMenu();
     void AddExport(const char* name, int caption);
     void ShowCommandButtons();
@@ -194,6 +201,11 @@ private:
     void Save();
     void SendEdits();
     void UpdateTagScheduleData();
+    void ExportShown();
+    void ExportToExcel(const Sheet& source, Sheet& target);
+    void ExportToHTML();
+    void WriteHtml(const QString& fileName) const;
+    void PrintSchedule();
     void cmdCancel_Click();
     bool MayUnload();
     void Unload();
@@ -209,6 +221,7 @@ private:
     QPushButton* m_continue = nullptr;
     QPushButton* m_cancel = nullptr;
     Sheet* m_sheet = nullptr;
+    Sheet* m_exported = nullptr; ///< what of the grid goes into a workbook
     std::unique_ptr<CellEditing> m_editing;
     std::unique_ptr<RowSorting> m_sorting;
 

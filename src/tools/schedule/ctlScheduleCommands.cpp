@@ -42,10 +42,13 @@ void ctlSchedule::BeginCommand()
 
 ctlSchedule::Command ctlSchedule::CommandOf(const QString& key)
 {
-    static constexpr std::array<std::pair<const char*, Command>, 5> kCommands{{
+    static constexpr std::array<std::pair<const char*, Command>, 8> kCommands{{
         {"btnTranspose", &ctlSchedule::Transpose},
         {"btnSaveTag", &ctlSchedule::Save},
         {"btnPrint", &ctlSchedule::Print},
+        {"btnExport", &ctlSchedule::ExportShown},
+        {"mnuExportExcel", &ctlSchedule::ExportShown},
+        {"mnuExportHtml", &ctlSchedule::ExportToHTML},
         {"btnCustomize", &ctlSchedule::Customize},
         {"btnHelp", &ctlSchedule::Help},
     }};
@@ -73,6 +76,8 @@ void ctlSchedule::Print()
 {
     if (IsSelectorView())
         PrintSelections();
+    else
+        PrintSchedule();
 }
 
 void ctlSchedule::Customize()

@@ -22,9 +22,6 @@ void ctlSchedule::InitializeControls()
     for (const auto& tool : ScheduleToolsOf(m_viewType, m_printsSelections)) {
         AddToolbarButton(QLatin1String(tool.key), tool.image, QLatin1String(tool.caption), LoadResString(tool.tooltip),
                          true);
-        // What this version has no command for cannot be clicked.
-        if (QAction* action = m_toolbar->Tool(QLatin1String(tool.key)))
-            action->setEnabled(HasCommand(QLatin1String(tool.key)));
     }
     BuildExportMenu();
     m_toolbar->setAccessibleName(ComponentText(QT_TRANSLATE_NOOP("Schedules", "Toolbar")));
@@ -41,11 +38,6 @@ void ctlSchedule::AddToolbarButton(const QString& key, int image, const QString&
     });
 }
 
-bool ctlSchedule::HasCommand(const QString& key) const
-{
-    return CommandOf(key) && !(key == QLatin1String("btnPrint") && IsScheduleView());
-}
-
 void ctlSchedule::BuildExportMenu()
 {
     m_exportMenu = new QMenu(LoadResString(kExportCaption), this);
@@ -59,7 +51,6 @@ void ctlSchedule::AddExport(const char* name, int caption)
 {
     QAction* entry = m_exportMenu->addAction(LoadResString(caption));
     entry->setObjectName(QLatin1String(name));
-    entry->setEnabled(HasCommand(QLatin1String(name)));
     connect(entry, &QAction::triggered, this, [this, name] { ab_ToolClick(QLatin1String(name)); });
 }
 
