@@ -3,18 +3,29 @@
 #include "host/HostError.h"
 
 #include <QCommandLineParser>
+#include <QDir>
+#include <QFileInfo>
 #include <QHash>
 #include <QRegularExpression>
+#include <QSet>
+
+#include <algorithm>
+#include <array>
 
 namespace schedules::host {
 
 namespace {
 
+/// The first one is written when none is named.
+const QStringList kFormats{"png", "pdf", "xls", "xlsx", "csv", "html"};
+
 const QStringList kCommonOptions{"view", "select-all", "messages", "language", "palette"};
 const QStringList kActionOptions{"transpose", "edit", "tick", "sort", "continue", "save"};
-const QStringList kFlags{"select-all", "transpose", "continue"};
-const QStringList kOptionsWithValue{"view",  "messages", "language", "palette", "png",
-                                    "title", "edit",     "tick",     "sort",    "save"};
+const QStringList kRenderOptions = kFormats + QStringList{"out", "as", "title", "plain-print", "paper"};
+const QStringList kFlags{"select-all", "transpose", "continue", "plain-print"};
+
+/// The options that make sense in one format only.
+const QHash<QString, QString> kFormatOf{{"title", "png"}, {"plain-print", "pdf"}, {"paper", "pdf"}};
 
 /// The options that make sense in one view only.
 const QHash<QString, QString> kViewOf{
@@ -26,6 +37,10 @@ const QStringList kLanguages{"en", "de", "fr"};
 /// In the order of `Palette`.
 const QStringList kPalettes{"desktop", "light", "dark"};
 
+/// The first one is used when none is named.
+constexpr std::array kPapers{QPageSize::A4, QPageSize::A3,     QPageSize::A2,    QPageSize::A1,     QPageSize::A0,
+                             QPageSize::A5, QPageSize::Letter, QPageSize::Legal, QPageSize::Tabloid};
+
 /// The options that a form takes.
 QStringList OptionsOf(Form form)
 {
@@ -33,7 +48,7 @@ QStringList OptionsOf(Form form)
     case Form::Dump:
         return kCommonOptions + kActionOptions;
     case Form::Render:
-        return kCommonOptions + kActionOptions + QStringList{"png", "title"};
+        return kCommonOptions + kActionOptions + kRenderOptions;
     default:
         return kCommonOptions;
     }
@@ -42,10 +57,8 @@ QStringList OptionsOf(Form form)
 void AddOptions(QCommandLineParser& parser)
 {
     parser.addOptions({{{"h", "help"}, {}}, {{"v", "version"}, {}}});
-    for (const QString& name : kFlags)
-        parser.addOption({name, {}});
-    for (const QString& name : kOptionsWithValue)
-        parser.addOption({name, {}, name});
+    for (const QString& name : kCommonOptions + kActionOptions + kRenderOptions)
+        parser.addOption({name, {}, kFlags.contains(name) ? QString() : name});
 }
 
 QString OneOf(const QCommandLineParser& parser, const QString& name, const QStringList& choices)
@@ -124,44 +137,156 @@ UserActions Actions(const QCommandLineParser& parser)
             .save = FileName(parser, QStringLiteral("save"))};
 }
 
-QString OnlyFile(const QStringList& files, Form form)
+QStringList PaperNames()
+{
+    QStringList names;
+    for (const auto paper : kPapers)
+        names << QPageSize::key(paper);
+    return names;
+}
+
+QList<Output> NamedOutputs(const QCommandLineParser& parser)
+{
+    QList<Output> outputs;
+    for (const QString& format : kFormats) {
+        if (parser.isSet(format))
+            outputs << Output{format, FileName(parser, format)};
+    }
+    return outputs;
+}
+
+QStringList Formats(const QCommandLineParser& parser)
+{
+    const QString name = QStringLiteral("as");
+    if (!parser.isSet(name))
+        return RenderOptions().formats;
+    QStringList formats = parser.value(name).split(u',');
+    if (!std::ranges::all_of(formats, [](const QString& format) { return kFormats.contains(format); }))
+        throw HostError(QStringLiteral("--as must be a list of: %1").arg(kFormats.join(QStringLiteral(", "))));
+    formats.removeDuplicates();
+    return formats;
+}
+
+RenderOptions Rendering(const QCommandLineParser& parser)
+{
+    const QStringList papers = PaperNames();
+    const qsizetype paper = papers.indexOf(OneOf(parser, QStringLiteral("paper"), papers));
+    return {.outputs = NamedOutputs(parser),
+            .formats = Formats(parser),
+            .folder = FileName(parser, QStringLiteral("out")),
+            .title = parser.value(QStringLiteral("title")),
+            .smartPrint = !parser.isSet(QStringLiteral("plain-print")),
+            .paper = kPapers[std::size_t(paper)]};
+}
+
+void CheckFiles(const QStringList& files, Form form)
 {
     if (files.isEmpty() && form != Form::Window)
         throw HostError(QStringLiteral("a file is missing"));
-    if (files.size() > 1)
+    if (files.size() > 1 && form != Form::Render)
         throw HostError(QStringLiteral("one file at a time, not also '%1'").arg(files[1]));
-    if (!files.isEmpty() && files.first().isEmpty())
+    if (files.contains(QString()))
         throw HostError(QStringLiteral("the file name is empty"));
-    return files.value(0);
+}
+
+/// An output has either a name of its own or one that is made from folder and input.
+void CheckNaming(const QCommandLineParser& parser, const QStringList& files)
+{
+    for (const QString& format : kFormats) {
+        for (const char* other : {"out", "as"}) {
+            if (parser.isSet(format) && parser.isSet(QLatin1String(other)))
+                throw HostError(QStringLiteral("--%1 and --%2 exclude each other").arg(QLatin1String(other), format));
+        }
+    }
+    if (files.size() < 2)
+        return;
+    if (!parser.isSet(QStringLiteral("out")))
+        throw HostError(QStringLiteral("several files need --out FOLDER"));
+    if (parser.isSet(QStringLiteral("save")))
+        throw HostError(QStringLiteral("--save takes one file at a time"));
+}
+
+void CheckFormats(const QCommandLineParser& parser, const QList<Output>& outputs)
+{
+    for (const QString& name : parser.optionNames()) {
+        const QString format = kFormatOf.value(name);
+        const auto isIt = [&](const Output& output) { return output.format == format; };
+        if (!format.isEmpty() && std::ranges::none_of(outputs, isIt))
+            throw HostError(QStringLiteral("--%1 belongs to %2 only").arg(name, format));
+    }
+}
+
+/// Nothing may be written over what the same command has written.
+void CheckNames(const CommandLine& commandLine)
+{
+    QStringList names{commandLine.messages, commandLine.actions.save};
+    names.removeAll(QString());
+    for (const QString& file : commandLine.files) {
+        for (const Output& output : commandLine.render.OutputsOf(file))
+            names << output.fileName;
+    }
+    QSet<QString> seen;
+    for (const QString& name : names) {
+        const QString path = QDir::cleanPath(QFileInfo(name).absoluteFilePath());
+        if (seen.contains(path))
+            throw HostError(QStringLiteral("'%1' would be written twice").arg(name));
+        seen.insert(path);
+    }
+}
+
+void CheckRendering(const QCommandLineParser& parser, const CommandLine& commandLine)
+{
+    CheckNaming(parser, commandLine.files);
+    CheckFormats(parser, commandLine.render.OutputsOf(commandLine.files.first()));
+    CheckNames(commandLine);
 }
 
 CommandLine Understood(const QCommandLineParser& parser)
 {
-    if (parser.isSet(QStringLiteral("help")))
-        return {.form = Form::Help};
-    if (parser.isSet(QStringLiteral("version")))
-        return {.form = Form::Version};
-
     QStringList words = parser.positionalArguments();
     const Form form = FormNamed(words.value(0));
     CheckOptions(parser, form);
     if (form != Form::Window)
         words.removeFirst();
+    CheckFiles(words, form);
     const bool selector = OneOf(parser, QStringLiteral("view"), kViews) == kViews.last();
     return {.form = form,
-            .file = OnlyFile(words, form),
+            .files = words,
             .view = {.view = selector ? View::Selector : View::Schedule,
                      .selectAll = parser.isSet(QStringLiteral("select-all")),
                      .transpose = parser.isSet(QStringLiteral("transpose"))},
             .actions = Actions(parser),
             .messages = FileName(parser, QStringLiteral("messages")),
-            .png = FileName(parser, QStringLiteral("png")),
-            .title = parser.value(QStringLiteral("title")),
+            .render = Rendering(parser),
             .language = OneOf(parser, QStringLiteral("language"), kLanguages),
             .palette = Palette(kPalettes.indexOf(OneOf(parser, QStringLiteral("palette"), kPalettes)))};
 }
 
+CommandLine Checked(const QCommandLineParser& parser)
+{
+    if (parser.isSet(QStringLiteral("help")))
+        return {.form = Form::Help};
+    if (parser.isSet(QStringLiteral("version")))
+        return {.form = Form::Version};
+    const CommandLine commandLine = Understood(parser);
+    if (commandLine.form == Form::Render)
+        CheckRendering(parser, commandLine);
+    return commandLine;
+}
+
 } // namespace
+
+QList<Output> RenderOptions::OutputsOf(const QString& file) const
+{
+    if (!outputs.isEmpty())
+        return outputs;
+    QList<Output> named;
+    for (const QString& format : formats) {
+        const QString name = QFileInfo(file).completeBaseName() + u'.' + format;
+        named << Output{format, folder.isEmpty() ? name : QDir(folder).filePath(name)};
+    }
+    return named;
+}
 
 std::variant<CommandLine, UsageError> ParseCommandLine(const QStringList& arguments)
 {
@@ -170,44 +295,10 @@ std::variant<CommandLine, UsageError> ParseCommandLine(const QStringList& argume
     if (!parser.parse(QStringList{QStringLiteral("schedhost")} + arguments))
         return UsageError{parser.errorText().simplified()};
     try {
-        return Understood(parser);
+        return Checked(parser);
     } catch (const HostError& error) {
         return UsageError{error.Line().simplified()};
     }
-}
-
-QString HelpText()
-{
-    return QStringLiteral(R"(schedhost: shows equipment schedules.
-
-  schedhost [FILE.xml] [options]         opens a window on a schedule, or on your copy of a sample
-  schedhost dump FILE.xml [options]      prints the grid as JSON
-  schedhost render FILE.xml [options]    draws the view into a picture
-
-Options:
-  --view schedule|selector   which view loads the file (schedule)
-  --select-all               selector view: every check box starts ticked
-  --messages FILE            appends each message between tool and host to a file, one XML line each
-  --language en|de|fr        language of the tool (en)
-  --palette desktop|light|dark
-                             colours (desktop); dump shows none
-  --png FILE                 render: the picture's name (FILE.png in the current folder)
-  --title TEXT               render: a heading above the grid
-  -h, --help                 this text
-  -v, --version              the version
-
-For dump and render, done after loading in this order; columns and rows are numbered as dump prints them:
-  --transpose                exchanges rows and columns
-  --edit COLUMN,ROW=TEXT     schedule view: edits a cell; may be repeated. A check box takes 1 or 0
-  --tick TAG                 selector view: ticks a tag; may be repeated
-  --sort COLUMN[:desc]       sorts the rows as they are shown
-  --continue                 selector view: presses Continue
-  --save FILE                schedule view: presses Save, and writes what the view hands over
-
-The window saves into the file that it shows; dump and render never change it.
-
-Exit codes: 0 done, 1 the file could not be loaded or written, or the view did not allow it, 2 wrong usage.
-)");
 }
 
 } // namespace schedules::host

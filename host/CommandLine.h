@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QPageSize>
 #include <QString>
 #include <QStringList>
 
@@ -73,16 +74,40 @@ struct UserActions
     bool operator==(const UserActions&) const = default;
 };
 
+/// A file to be written. The formats are "png", "pdf", "xls", "xlsx", "csv" and "html", which are also the names of the
+/// options and the ends of file names.
+struct Output
+{
+    QString format;
+    QString fileName;
+
+    bool operator==(const Output&) const = default;
+};
+
+/// What `render` makes of the files that it reads.
+struct RenderOptions
+{
+    QList<Output> outputs;      ///< those that have a name, for one file
+    QStringList formats{"png"}; ///< without any, one output of each, named after the file that is read
+    QString folder;             ///< where these go; empty: the current folder
+    QString title;              ///< a heading for pictures
+    bool smartPrint = true;     ///< a PDF is fitted to its pages
+    QPageSize::PageSizeId paper = QPageSize::A4;
+
+    bool operator==(const RenderOptions&) const = default;
+
+    QList<Output> OutputsOf(const QString& file) const;
+};
+
 /// What the program was asked to do.
 struct CommandLine
 {
     Form form = Form::Window;
-    QString file; ///< empty: the user's copy of the sample
+    QStringList files; ///< several for `render` only; none: the user's copy of the sample
     ViewOptions view;
     UserActions actions;
     QString messages; ///< the file that every message is appended to; empty for none
-    QString png;
-    QString title;
+    RenderOptions render;
     QString language = QStringLiteral("en");
     Palette palette = Palette::Desktop;
 

@@ -1,6 +1,7 @@
 #include "host/ConsoleUserInterface.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace schedules::host {
 
@@ -12,13 +13,14 @@ Answer ConsoleUserInterface::Show(const MessageBox& box)
     return buttons == kYesNo || buttons == kYesNoCancel ? Answer::No : Answer::Ok;
 }
 
-std::optional<QString> ConsoleUserInterface::Failure() const
+std::optional<QString> ConsoleUserInterface::TakeFailure()
 {
-    if (m_boxes.isEmpty())
+    const auto boxes = std::exchange(m_boxes, {});
+    if (boxes.isEmpty())
         return std::nullopt;
-    const auto numbered = std::ranges::find_if(m_boxes, [](const MessageBox& box) { return box.number != 0; });
-    if (numbered == m_boxes.end())
-        return m_boxes.first().text.simplified();
+    const auto numbered = std::ranges::find_if(boxes, [](const MessageBox& box) { return box.number != 0; });
+    if (numbered == boxes.end())
+        return boxes.first().text.simplified();
     return QStringLiteral("%1 (%2)").arg(numbered->text.simplified(), QString::number(numbered->number));
 }
 

@@ -17,9 +17,9 @@ public:
     void Beep() override {}
     QString AskSaveFileName(const FileQuestion&) override { return {}; }
 
-    /// What went wrong, as one line: the first message with a number, the number behind it in brackets; without any
-    /// numbered one the first message. Nothing when no message was shown.
-    std::optional<QString> Failure() const;
+    /// What went wrong since the last call, as one line: the first message with a number, the number behind it in
+    /// brackets; without any numbered one the first message. Nothing when no message was shown.
+    std::optional<QString> TakeFailure();
 
 private:
     QList<MessageBox> m_boxes;

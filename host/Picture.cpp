@@ -1,8 +1,10 @@
 #include "host/Picture.h"
 
+#include "host/FileReplacement.h"
 #include "host/HostError.h"
 
 #include <QAbstractScrollArea>
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QImageWriter>
 #include <QPainter>
@@ -80,9 +82,11 @@ QImage PictureOf(QWidget& tool, const QString& title)
 
 void WritePng(const QImage& picture, const QString& fileName)
 {
-    QImageWriter writer(fileName, "png");
-    if (!writer.write(picture))
+    QBuffer buffer;
+    QImageWriter writer(&buffer, "png");
+    if (!buffer.open(QIODevice::WriteOnly) || !writer.write(picture))
         throw HostError(QStringLiteral("cannot write %1: %2").arg(fileName, writer.errorString()));
+    ReplaceFile(fileName, buffer.data());
 }
 
 } // namespace schedules::host

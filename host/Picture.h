@@ -11,7 +11,7 @@ namespace schedules::host {
 /// heading.
 QImage PictureOf(QWidget& tool, const QString& title);
 
-/// Throws `HostError` when the file cannot be written.
+/// Throws `HostError` when the file cannot be written; it is then as it was.
 void WritePng(const QImage& picture, const QString& fileName);
 
 } // namespace schedules::host

@@ -23,6 +23,16 @@ std::unique_ptr<QWidget> CreatedTool(UserInterface* userInterface)
     return std::unique_ptr<QWidget>(widget);
 }
 
+/// Calls a method of the view that gives what went wrong.
+template <class... Arguments>
+QString FailureOf(QWidget& view, const char* method, Arguments... arguments)
+{
+    QString failure;
+    if (!QMetaObject::invokeMethod(&view, method, Q_RETURN_ARG(QString, failure), arguments...))
+        throw HostError(QStringLiteral("the view has no %1").arg(QLatin1String(method)));
+    return failure;
+}
+
 } // namespace
 
 ScheduleTool::ScheduleTool(IMsgRouter& router, UserInterface* userInterface, const ViewOptions& options)
@@ -61,6 +71,16 @@ void ScheduleTool::Transpose()
 void ScheduleTool::Save()
 {
     Trigger("btnSaveTag");
+}
+
+QString ScheduleTool::WriteFile(const QString& format, const QString& fileName)
+{
+    return FailureOf(*m_widget, "WriteFile", Q_ARG(QString, format), Q_ARG(QString, fileName));
+}
+
+QString ScheduleTool::WritePdf(const QString& fileName, bool smart, QPageSize::PageSizeId paper)
+{
+    return FailureOf(*m_widget, "WritePdf", Q_ARG(QString, fileName), Q_ARG(bool, smart), Q_ARG(int, int(paper)));
 }
 
 void ScheduleTool::CommitEdit()

@@ -2,6 +2,7 @@
 
 #include "host/CommandLine.h"
 
+#include <QPageSize>
 #include <QWidget>
 
 #include <memory>
@@ -31,6 +32,12 @@ public:
 
     /// Does what the button Save does; nothing while it is not enabled. Throws `HostError` as well.
     void Save();
+
+    /// Writes what the grid shows in a format of `Output` that is neither a picture nor a PDF. Gives what went wrong.
+    QString WriteFile(const QString& format, const QString& fileName);
+
+    /// Prints the grid, fitted to pages or at full size. Gives what went wrong.
+    QString WritePdf(const QString& fileName, bool smart, QPageSize::PageSizeId paper);
 
     /// Ends an edit that is open, keeping its value.
     void CommitEdit();

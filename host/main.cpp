@@ -1,6 +1,7 @@
 #include "framework/IComponentFactory.h"
 #include "host/CommandLine.h"
 #include "host/Commands.h"
+#include "host/Console.h"
 #include "host/HostError.h"
 #include "host/Platform.h"
 
@@ -18,11 +19,6 @@ QStringList Arguments(int argc, char** argv)
     for (int index = 1; index < argc; ++index)
         arguments.append(QString::fromLocal8Bit(argv[index]));
     return arguments;
-}
-
-void PrintLine(std::FILE* stream, const QString& line)
-{
-    std::fputs((line + u'\n').toLocal8Bit().constData(), stream);
 }
 
 int Run(const CommandLine& commandLine)
@@ -46,7 +42,7 @@ int RunApplication(const CommandLine& commandLine, int argc, char** argv)
     try {
         return Run(commandLine);
     } catch (const HostError& error) {
-        PrintLine(stderr, error.Line());
+        PrintError(error.Line());
         return kFailed;
     }
 }
@@ -55,14 +51,14 @@ int Main(int argc, char** argv)
 {
     const auto parsed = ParseCommandLine(Arguments(argc, argv));
     if (const auto* error = std::get_if<UsageError>(&parsed)) {
-        PrintLine(stderr, QStringLiteral("schedhost: %1 (see schedhost --help)").arg(error->line));
+        PrintError(QStringLiteral("schedhost: %1 (see schedhost --help)").arg(error->line));
         return kWrongUsage;
     }
     const auto& commandLine = std::get<CommandLine>(parsed);
     if (commandLine.form == Form::Help)
         return std::fputs(HelpText().toUtf8().constData(), stdout), kDone;
     if (commandLine.form == Form::Version)
-        return PrintLine(stdout, QStringLiteral("schedhost %1").arg(ComponentFactory().Version())), kDone;
+        return std::fputs("schedhost " + ComponentFactory().Version().toUtf8() + '\n', stdout), kDone;
     return RunApplication(commandLine, argc, argv);
 }
 

@@ -33,6 +33,13 @@ struct MessageBox
     int number = 0; ///< the number of the localised text that is shown; 0 when there is none
 };
 
+/// What a file dialog minds, as the sum of their numbers; other numbers are kept and mean nothing.
+enum FileFlag
+{
+    kOverwritePrompt = 0x2,
+    kPathMustExist = 0x800
+};
+
 struct FileQuestion
 {
     QString title;

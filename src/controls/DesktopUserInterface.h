@@ -7,7 +7,8 @@
 
 namespace schedules {
 
-/// Speaks to the user of a desktop, in dialogs over the window of a widget.
+/// Speaks to the user of a desktop, in dialogs over the window of a widget. When that window is deleted while a dialog
+/// is open, the dialog counts as cancelled; this object may be gone with it.
 class DesktopUserInterface : public UserInterface
 {
 public:
@@ -22,6 +23,8 @@ public:
     /// The hourglass counts once, however often it is set; the default pointer takes away no one else's.
     void SetPointer(Pointer pointer) override;
     void Beep() override;
+
+    /// See `SaveFileDialog`.
     QString AskSaveFileName(const FileQuestion& question) override;
 
 private:

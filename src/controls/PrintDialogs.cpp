@@ -114,7 +114,8 @@ void PrintDialogs::SavePdf(const PrintJob& job)
     const QString fileName = m_userInterface.AskSaveFileName({.title = ComponentText("Save as PDF..."),
                                                               .fileName = PdfNameFor(job.title),
                                                               .defaultSuffix = QStringLiteral("pdf"),
-                                                              .filters = {ComponentText("PDF documents (*.pdf)")}});
+                                                              .filters = {ComponentText("PDF documents (*.pdf)")},
+                                                              .flags = kOverwritePrompt | kPathMustExist});
     if (!fileName.isEmpty())
         WritePdf(job, fileName);
 }

@@ -1,5 +1,7 @@
 #include "controls/DesktopUserInterface.h"
 
+#include "support/ModalDialog.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
@@ -8,27 +10,14 @@
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 
+#include <array>
 #include <gtest/gtest.h>
+#include <memory>
 
 namespace schedules::testing {
 
 namespace {
-
-/// Runs an action on the next modal dialog, as a user would.
-template <class Dialog, class Action>
-void OnceModal(Action action)
-{
-    auto* const timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, action] {
-        if (auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget())) {
-            timer->deleteLater();
-            action(*dialog);
-        }
-    });
-    timer->start(1);
-}
 
 struct Shown
 {
@@ -116,6 +105,32 @@ TEST(DesktopUserInterface, DialogsStandOverTheWindowOfTheirParent)
     });
     userInterface.Show(Box(kOkOnly));
     EXPECT_EQ(over, &window);
+}
+
+TEST(DesktopUserInterface, ABoxWhoseWindowIsDeletedIsCancelled)
+{
+    for (const int style : std::array<int, 3>{kOkOnly, kYesNo, kYesNoCancel}) {
+        auto window = std::make_unique<QWidget>();
+        auto userInterface = std::make_unique<DesktopUserInterface>(window.get());
+        OnceModal<QMessageBox>([&](QMessageBox&) {
+            userInterface.reset();
+            window.reset();
+        });
+        EXPECT_EQ(userInterface->Show(Box(style)), Answer::Cancel);
+        EXPECT_EQ(window, nullptr);
+    }
+}
+
+TEST(DesktopUserInterface, AFileDialogWhoseWindowIsDeletedGivesNoName)
+{
+    auto window = std::make_unique<QWidget>();
+    auto userInterface = std::make_unique<DesktopUserInterface>(window.get());
+    OnceModal<QFileDialog>([&](QFileDialog&) {
+        userInterface.reset();
+        window.reset();
+    });
+    EXPECT_EQ(userInterface->AskSaveFileName({.fileName = QStringLiteral("plan")}), QString());
+    EXPECT_EQ(window, nullptr);
 }
 
 TEST(DesktopUserInterface, TheHourglassNeverStacksAndLeavesOthersAlone)

@@ -32,31 +32,25 @@ TEST(CommandLine, NothingOpensTheSample)
 
 TEST(CommandLine, AFileOpensAWindowOnIt)
 {
-    EXPECT_EQ(Parsed({"a.xml"}), (CommandLine{.file = "a.xml"}));
+    EXPECT_EQ(Parsed({"a.xml"}), (CommandLine{.files = {"a.xml"}}));
 }
 
 TEST(CommandLine, AWindowTakesViewSelectAllMessagesAndLanguage)
 {
-    EXPECT_EQ(
-        Parsed({"a.xml", "--view", "selector", "--select-all", "--messages", "m", "--language", "de"}),
-        (CommandLine{
-            .file = "a.xml", .view = {.view = View::Selector, .selectAll = true}, .messages = "m", .language = "de"}));
+    EXPECT_EQ(Parsed({"a.xml", "--view", "selector", "--select-all", "--messages", "m", "--language", "de"}),
+              (CommandLine{.files = {"a.xml"},
+                           .view = {.view = View::Selector, .selectAll = true},
+                           .messages = "m",
+                           .language = "de"}));
 }
 
 TEST(CommandLine, DumpTakesViewSelectAllTransposeAndMessages)
 {
     EXPECT_EQ(Parsed({"dump", "a.xml", "--view", "selector", "--select-all", "--transpose", "--messages", "m"}),
               (CommandLine{.form = Form::Dump,
-                           .file = "a.xml",
+                           .files = {"a.xml"},
                            .view = {.view = View::Selector, .selectAll = true, .transpose = true},
                            .messages = "m"}));
-}
-
-TEST(CommandLine, RenderTakesAPictureAndATitleBeside)
-{
-    EXPECT_EQ(
-        Parsed({"render", "a.xml", "--view=schedule", "--transpose", "--png", "p", "--title", "T t"}),
-        (CommandLine{.form = Form::Render, .file = "a.xml", .view = {.transpose = true}, .png = "p", .title = "T t"}));
 }
 
 TEST(CommandLine, ScheduleViewTakesEditsASortAndASave)
@@ -64,7 +58,7 @@ TEST(CommandLine, ScheduleViewTakesEditsASortAndASave)
     const UserActions actions{.edits = {{1, 2, "a=b,c"}, {10, 0, ""}}, .sort = SortColumn{3, true}, .save = "out.xml"};
     EXPECT_EQ(
         Parsed({"dump", "a.xml", "--edit", "1,2=a=b,c", "--sort", "3:desc", "--edit", "10,0=", "--save", "out.xml"}),
-        (CommandLine{.form = Form::Dump, .file = "a.xml", .actions = actions}));
+        (CommandLine{.form = Form::Dump, .files = {"a.xml"}, .actions = actions}));
     EXPECT_EQ(Parsed({"dump", "a.xml", "--sort", "3"}).actions.sort, (SortColumn{3, false}));
     EXPECT_EQ(Parsed({"dump", "a.xml", "--edit", "1,1=a\nb"}).actions.edits, (QList<CellText>{{1, 1, "a\nb"}}));
 }
@@ -74,7 +68,7 @@ TEST(CommandLine, SelectorViewTakesTicksAndContinue)
     const UserActions actions{.ticks = {"P-1", "P-2"}, .pressContinue = true};
     EXPECT_EQ(
         Parsed({"render", "a.xml", "--view", "selector", "--tick", "P-1", "--continue", "--tick", "P-2"}),
-        (CommandLine{.form = Form::Render, .file = "a.xml", .view = {.view = View::Selector}, .actions = actions}));
+        (CommandLine{.form = Form::Render, .files = {"a.xml"}, .view = {.view = View::Selector}, .actions = actions}));
 }
 
 TEST(CommandLine, EveryFormTakesAPalette)
@@ -110,14 +104,14 @@ TEST(CommandLine, AnOptionOfTheOtherViewIsRefused)
 TEST(CommandLine, OptionsMayComeFirst)
 {
     EXPECT_EQ(Parsed({"--transpose", "dump", "a.xml"}),
-              (CommandLine{.form = Form::Dump, .file = "a.xml", .view = {.transpose = true}}));
+              (CommandLine{.form = Form::Dump, .files = {"a.xml"}, .view = {.transpose = true}}));
 }
 
 TEST(CommandLine, AFileMayBeNamedLikeACommandOrAnOption)
 {
-    EXPECT_EQ(Parsed({"dump", "dump"}), (CommandLine{.form = Form::Dump, .file = "dump"}));
-    EXPECT_EQ(Parsed({"./dump"}), (CommandLine{.file = "./dump"}));
-    EXPECT_EQ(Parsed({"dump", "--", "--odd"}), (CommandLine{.form = Form::Dump, .file = "--odd"}));
+    EXPECT_EQ(Parsed({"dump", "dump"}), (CommandLine{.form = Form::Dump, .files = {"dump"}}));
+    EXPECT_EQ(Parsed({"./dump"}), (CommandLine{.files = {"./dump"}}));
+    EXPECT_EQ(Parsed({"dump", "--", "--odd"}), (CommandLine{.form = Form::Dump, .files = {"--odd"}}));
 }
 
 TEST(CommandLine, HelpAndVersionWinOverTheRest)
@@ -144,7 +138,10 @@ TEST(CommandLine, AnOptionOfAnotherCommandIsRefused)
     for (const char* option : {"--edit", "--tick", "--sort", "--save"})
         EXPECT_EQ(Refused({"a.xml", option, "1"}), QStringLiteral("%1 does not belong to this command").arg(option));
     EXPECT_EQ(Refused({"a.xml", "--continue"}), "--continue does not belong to this command");
-    EXPECT_EQ(Refused({"dump", "a.xml", "--title", "t"}), "--title does not belong to this command");
+    for (const char* option : {"--title", "--pdf", "--xls", "--xlsx", "--csv", "--html", "--out", "--as", "--paper"})
+        EXPECT_EQ(Refused({"dump", "a.xml", option, "t"}),
+                  QStringLiteral("%1 does not belong to this command").arg(option));
+    EXPECT_EQ(Refused({"dump", "a.xml", "--plain-print"}), "--plain-print does not belong to this command");
 }
 
 TEST(CommandLine, AnUnknownOptionOrAMissingValueIsRefused)
@@ -177,8 +174,9 @@ TEST(CommandLine, WrongUsageIsToldInOneLine)
 TEST(CommandLine, HelpNamesEveryOption)
 {
     for (const char* option :
-         {"--view", "--select-all", "--transpose", "--png", "--title", "--messages", "--language", "--edit", "--tick",
-          "--sort", "--continue", "--save", "--palette", "--help", "--version"})
+         {"--view", "--select-all", "--transpose", "--png",  "--title",   "--messages", "--language", "--edit",
+          "--tick", "--sort",       "--continue",  "--save", "--palette", "--help",     "--version",  "--pdf",
+          "--xls",  "--xlsx",       "--csv",       "--html", "--out",     "--as",       "--paper",    "--plain-print"})
         EXPECT_TRUE(HelpText().contains(QLatin1String(option))) << option;
 }
 

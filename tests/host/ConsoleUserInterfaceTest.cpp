@@ -6,7 +6,7 @@ namespace schedules::host {
 
 TEST(ConsoleUserInterface, WithoutABoxNothingFailed)
 {
-    EXPECT_EQ(ConsoleUserInterface().Failure(), std::nullopt);
+    EXPECT_EQ(ConsoleUserInterface().TakeFailure(), std::nullopt);
 }
 
 TEST(ConsoleUserInterface, TheFirstNumberedBoxIsTheFailure)
@@ -15,14 +15,14 @@ TEST(ConsoleUserInterface, TheFirstNumberedBoxIsTheFailure)
     user.Show({.text = QStringLiteral("plain")});
     user.Show({.text = QStringLiteral("Not\nloaded."), .number = 1064});
     user.Show({.text = QStringLiteral("Not shown."), .number = 3040});
-    EXPECT_EQ(user.Failure(), QStringLiteral("Not loaded. (1064)"));
+    EXPECT_EQ(user.TakeFailure(), QStringLiteral("Not loaded. (1064)"));
 }
 
 TEST(ConsoleUserInterface, APercentSignInATextIsNothingSpecial)
 {
     ConsoleUserInterface user;
     user.Show({.text = QStringLiteral("50 %2"), .number = 7});
-    EXPECT_EQ(user.Failure(), QStringLiteral("50 %2 (7)"));
+    EXPECT_EQ(user.TakeFailure(), QStringLiteral("50 %2 (7)"));
 }
 
 TEST(ConsoleUserInterface, WithoutANumberedBoxTheFirstOneIsTheFailure)
@@ -30,7 +30,17 @@ TEST(ConsoleUserInterface, WithoutANumberedBoxTheFirstOneIsTheFailure)
     ConsoleUserInterface user;
     user.Show({.text = QStringLiteral("first")});
     user.Show({.text = QStringLiteral("second")});
-    EXPECT_EQ(user.Failure(), QStringLiteral("first"));
+    EXPECT_EQ(user.TakeFailure(), QStringLiteral("first"));
+}
+
+TEST(ConsoleUserInterface, AFailureThatWasTakenIsForgotten)
+{
+    ConsoleUserInterface user;
+    user.Show({.text = QStringLiteral("first")});
+    user.TakeFailure();
+    EXPECT_EQ(user.TakeFailure(), std::nullopt);
+    user.Show({.text = QStringLiteral("second")});
+    EXPECT_EQ(user.TakeFailure(), QStringLiteral("second"));
 }
 
 TEST(ConsoleUserInterface, QuestionsAreAnsweredWithNo)

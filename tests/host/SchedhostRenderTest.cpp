@@ -106,4 +106,11 @@ TEST_F(SchedhostRender, APictureThatCannotBeWrittenIsToldInOneLine)
     EXPECT_EQ(run.err.count('\n'), 1);
 }
 
+TEST_F(SchedhostRender, APictureThatFillsTheDiskIsTold)
+{
+    const Outcome run = Schedhost({"render", Written(QStringLiteral("a.xml"), kSmallTable), "--png", "/dev/full"});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.err, "cannot write /dev/full: No space left on device\n");
+}
+
 } // namespace schedules::host::testing

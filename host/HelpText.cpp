@@ -1,0 +1,52 @@
+#include "host/CommandLine.h"
+
+namespace schedules::host {
+
+QString HelpText()
+{
+    return QStringLiteral(R"(schedhost: shows equipment schedules.
+
+  schedhost [FILE.xml] [options]         opens a window on a schedule, or on your copy of a sample
+  schedhost dump FILE.xml [options]      prints the grid as JSON
+  schedhost render FILE.xml... [options] writes it as a picture, PDF, workbook, web page or text
+
+Options:
+  --view schedule|selector   which view loads the file (schedule)
+  --select-all               selector view: every check box starts ticked
+  --messages FILE            appends each message between tool and host to a file, one XML line each
+  --language en|de|fr        language of the tool (en)
+  --palette desktop|light|dark
+                             colours (desktop); dump shows none
+  -h, --help                 this text
+  -v, --version              the version
+
+For render, what is written; without any of these a picture named after the file, in the current folder:
+  --png FILE                 a picture of the view
+  --pdf FILE                 the schedule as Print prints it
+  --xls FILE                 an Excel 97 workbook
+  --xlsx FILE                an Office Open XML workbook
+  --csv FILE                 comma-separated values (UTF-8)
+  --html FILE                a web page
+  --out FOLDER               every output, named after its file, in this folder; for several files
+  --as FORMAT[,FORMAT...]    which outputs these are, of png, pdf, xls, xlsx, csv, html (png)
+  --title TEXT               a heading above the picture
+  --paper A4|A3|A2|A1|A0|A5|Letter|Legal|Tabloid
+                             the sheet of the PDF (A4)
+  --plain-print              the PDF is neither turned nor scaled to have all columns on a page
+
+For dump and render, done after loading in this order; columns and rows are numbered as dump prints them:
+  --transpose                exchanges rows and columns
+  --edit COLUMN,ROW=TEXT     schedule view: edits a cell; may be repeated. A check box takes 1 or 0
+  --tick TAG                 selector view: ticks a tag; may be repeated
+  --sort COLUMN[:desc]       sorts the rows as they are shown
+  --continue                 selector view: presses Continue
+  --save FILE                schedule view: presses Save, and writes what the view hands over
+
+The window saves into the file that it shows; dump and render never change it.
+
+Exit codes: 0 done, 1 a file could not be loaded or written, or the view did not allow it, 2 wrong usage. When render
+fails with one file or output, it goes on with the others.
+)");
+}
+
+} // namespace schedules::host

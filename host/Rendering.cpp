@@ -1,0 +1,114 @@
+#include "host/Commands.h"
+#include "host/Console.h"
+#include "host/HostError.h"
+#include "host/LoadedTool.h"
+#include "host/Palettes.h"
+#include "host/Picture.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <concepts>
+
+namespace schedules::host {
+
+namespace {
+
+void MakeFolder(const QString& folder)
+{
+    if (!folder.isEmpty() && !QDir().mkpath(folder))
+        throw HostError(QStringLiteral("cannot make the folder %1").arg(folder));
+}
+
+/// A failure to write a file, told with the file's name once.
+HostError NotWritten(const QString& fileName, const QString& failure)
+{
+    const QString named = fileName + QStringLiteral(": ");
+    const QString reason = failure.startsWith(named) ? failure.sliced(named.size()) : failure;
+    return HostError(QStringLiteral("cannot write %1%2").arg(named, reason.simplified()));
+}
+
+/// Writes all outputs of all files. What fails is told in a line, and the rest done.
+class Renderer
+{
+public:
+    explicit Renderer(const CommandLine& commandLine) : m_commandLine(commandLine), m_options(commandLine.render) {}
+
+    int Run()
+    {
+        for (const QString& file : m_commandLine.files)
+            Guarded(file, [&] { Render(file); });
+        return m_failed ? kFailed : kDone;
+    }
+
+private:
+    void Render(const QString& file)
+    {
+        Show(file, QStringLiteral("reading"));
+        KeepInputs(m_commandLine.files, {m_commandLine.messages, m_commandLine.actions.save});
+        LoadedTool loaded(m_commandLine, file);
+        for (const Output& output : m_options.OutputsOf(file)) {
+            Show(file, output.format);
+            Guarded(file, [&] { Write(loaded, output); });
+        }
+    }
+
+    void Write(LoadedTool& loaded, const Output& output)
+    {
+        KeepInputs(m_commandLine.files, {output.fileName});
+        const QString failure = Written(loaded.Tool(), output);
+        const auto told = loaded.TakeFailure();
+        if (!failure.isEmpty() || told)
+            throw NotWritten(output.fileName, told.value_or(failure));
+        m_progress.Clear();
+        PrintOut(output.fileName.toLocal8Bit() + '\n');
+    }
+
+    /// What went wrong.
+    QString Written(ScheduleTool& tool, const Output& output) const
+    {
+        if (output.format == QLatin1String("pdf"))
+            return tool.WritePdf(output.fileName, m_options.smartPrint, m_options.paper);
+        if (output.format != QLatin1String("png"))
+            return tool.WriteFile(output.format, output.fileName);
+        WritePng(PictureOf(tool.Widget(), m_options.title), output.fileName);
+        return {};
+    }
+
+    template <std::invocable Step>
+    void Guarded(const QString& file, Step&& step)
+    {
+        try {
+            step();
+        } catch (const HostError& error) {
+            m_failed = true;
+            m_progress.Clear();
+            PrintError(Several() ? file + QStringLiteral(": ") + error.Line() : error.Line());
+        }
+    }
+
+    void Show(const QString& file, const QString& step)
+    {
+        const auto place = QString::number(m_commandLine.files.indexOf(file) + 1);
+        const auto count = QString::number(m_commandLine.files.size());
+        m_progress.Show(QStringLiteral("[%1/%2] %3: %4").arg(place, count, QFileInfo(file).fileName(), step));
+    }
+
+    bool Several() const { return m_commandLine.files.size() > 1; }
+
+    const CommandLine& m_commandLine;
+    const RenderOptions& m_options;
+    ProgressLine m_progress;
+    bool m_failed = false;
+};
+
+} // namespace
+
+int RunRender(const CommandLine& commandLine)
+{
+    UsePalette(commandLine.palette);
+    MakeFolder(commandLine.render.folder);
+    return Renderer(commandLine).Run();
+}
+
+} // namespace schedules::host
