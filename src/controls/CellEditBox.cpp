@@ -57,7 +57,14 @@ constexpr int kCommandKeys[] = {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape, Q
 
 bool IsTyped(const QKeyEvent& event)
 {
-    return !event.text().isEmpty() && event.text().front().isPrint() && event.modifiers() != Qt::ControlModifier;
+    return !event.text().isEmpty() && event.text().front().isPrint();
+}
+
+/// Control and Alt together are AltGr, which types.
+bool IsCommand(const QKeyEvent& event)
+{
+    const auto modifiers = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    return modifiers && modifiers != (Qt::ControlModifier | Qt::AltModifier);
 }
 
 bool ComesBack(Qt::FocusReason reason)
@@ -89,7 +96,14 @@ void CellEditBox::Open(const QString& value, const QRect& place, Qt::Alignment v
 
 void CellEditBox::SetValue(const QString& value)
 {
-    Accepting([&] { setText(value); });
+    Accepting([&] {
+        if (!m_composing.isEmpty()) {
+            QGuiApplication::inputMethod()->reset();
+            QInputMethodEvent nothing;
+            inputMethodEvent(&nothing);
+        }
+        setText(value);
+    });
 }
 
 QString CellEditBox::FinishedValue()
@@ -151,7 +165,10 @@ void CellEditBox::PressCommandKey(int key)
 
 void CellEditBox::keyPressEvent(QKeyEvent* event)
 {
-    if (IsTyped(*event))
+    const bool isTyped = IsTyped(*event);
+    if (isTyped && IsCommand(*event) && !(event->modifiers() & Qt::ControlModifier))
+        event->ignore(); // an access key that leads nowhere; a line edit would insert the letter
+    else if (isTyped && !IsCommand(*event))
         Type(event);
     else
         QLineEdit::keyPressEvent(event);

@@ -5,8 +5,6 @@
 #include "framework/IMsgRouter.h"
 #include "framework/MessageTable.h"
 
-#include <QScopeGuard>
-
 #include <stdexcept>
 
 namespace schedules {
@@ -100,7 +98,7 @@ EventMessage ToolControl::Event(QStringView name, std::initializer_list<QVariant
 
 void ToolControl::HandleError(const Error* oErr, const QString& sProcName, const QString&, const QString&) noexcept
 {
-    const auto resetPointer = qScopeGuard([this] { IgnoringErrors([this] { Ui().SetPointer(Pointer::Default); }); });
+    const PointerReset reset(*this);
     if (!oErr || oErr->Number() == 0)
         return;
     try {

@@ -38,6 +38,28 @@ protected:
     UserInterface& Own(std::unique_ptr<UserInterface> userInterface);
     UserInterface& Ui() const { return *m_userInterface; }
 
+    /// Sets the pointer to the default when it goes, also when the host has deleted the tool by then: an interface that
+    /// was given to the tool outlives it, and one of its own sets the pointer back in its end.
+    class PointerReset
+    {
+    public:
+        explicit PointerReset(ToolControl& tool)
+            : m_tool(&tool), m_userInterface(tool.m_userInterface), m_isGiven(!tool.m_ownUserInterface)
+        {
+        }
+        ~PointerReset()
+        {
+            if (m_isGiven || m_tool)
+                IgnoringErrors([this] { m_userInterface->SetPointer(Pointer::Default); });
+        }
+        Q_DISABLE_COPY_MOVE(PointerReset)
+
+    private:
+        QPointer<QWidget> m_tool;
+        UserInterface* m_userInterface;
+        bool m_isGiven;
+    };
+
     QString TypeName() const { return QLatin1String(m_typeName); }
 
     /// "Schedules.ctlSchedule.IToolUI_Activate" for "IToolUI_Activate".

@@ -330,6 +330,17 @@ TEST_F(CellEditBoxTest, UndoOfADeletionInALongValueRestoresIt)
     EXPECT_EQ(refused.count(), 0);
 }
 
+TEST_F(CellEditBoxTest, AccessKeysAreNotTypedAndAltGrIs)
+{
+    OpenAtEnd(kThirty);
+    QKeyEvent accessKey(QEvent::KeyPress, Qt::Key_C, Qt::AltModifier, QStringLiteral("c"));
+    QApplication::sendEvent(&box, &accessKey);
+    EXPECT_EQ(refused.count(), 0);
+    QKeyEvent euro(QEvent::KeyPress, Qt::Key_E, Qt::ControlModifier | Qt::AltModifier, QStringLiteral("€"));
+    QApplication::sendEvent(&box, &euro);
+    EXPECT_EQ(refused.count(), 1);
+}
+
 TEST_F(CellEditBoxTest, AnotherValueIsShownAsItIs)
 {
     Open(kThirty);

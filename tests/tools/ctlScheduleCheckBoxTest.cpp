@@ -73,6 +73,15 @@ TEST_F(CheckBoxTest, DoesNotReactBetweenNewTextAndItsActivation)
     EXPECT_EQ(TextAt(1, 1), "1");
 }
 
+TEST_F(CheckBoxTest, SpaceWithAModifierIsTheHosts)
+{
+    ShowBoxes();
+    TheSheet()->SetActiveCell({Column(1), Row(1)});
+    for (const auto modifier : {Qt::ControlModifier, Qt::ShiftModifier, Qt::AltModifier, Qt::MetaModifier})
+        Key(Qt::Key_Space, modifier);
+    EXPECT_EQ(TextAt(1, 1), "1");
+}
+
 TEST_F(CheckBoxTest, DraggingSelectsInsteadOfSweeping)
 {
     ShowBoxes();

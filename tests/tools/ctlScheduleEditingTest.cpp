@@ -576,6 +576,65 @@ TEST_F(CellEditingTest, WhatAnInputMethodIsStillComposingIsCommitted)
     EXPECT_TRUE(SavedXml().find("日本") != std::string::npos);
 }
 
+TEST_F(CellEditingTest, EscapeDropsWhatAnInputMethodIsComposing)
+{
+    ShowSchedule();
+    ClickCell(3, 1);
+    QInputMethodEvent composing(QStringLiteral("abc"), {});
+    QApplication::sendEvent(Box(), &composing);
+    Key(Qt::Key_Escape);
+    EXPECT_EQ(TextAt(3, 1), "spare");
+    EXPECT_FALSE(Dirty());
+}
+
+TEST_F(CellEditingTest, OneCommitChangesTheCellOnce)
+{
+    ShowSchedule();
+    ClickCell(1, 1);
+    Type("20");
+    int changes = 0;
+    QObject::connect(TheSheet(), &Sheet::CellChanged, [&](Cell cell) {
+        changes += TheSheet()->Text(cell) == QStringLiteral("20") && TheSheet()->Style(cell).edited ? 1 : 0;
+    });
+    Button("cmdCancel")->setFocus();
+    EXPECT_EQ(changes, 1);
+}
+
+TEST_F(CellEditingTest, AnEditThatCannotOpenLeavesTheViewIdle)
+{
+    ShowSchedule();
+    TheSheet()->SetHidden(Column(1), true);
+    TheSheet()->SetActiveCell({Column(1), Row(1)});
+    Key(Qt::Key_F2);
+    EXPECT_EQ(Edit(), "idle");
+    EXPECT_FALSE(Box()->isVisible());
+    TheSheet()->SetHidden(Column(1), false);
+    Key(Qt::Key_F2);
+    EXPECT_EQ(Edit(), "1,1: 12");
+}
+
+TEST_F(CellEditingTest, WhiteSpaceAloneIsNoValue)
+{
+    ShowSchedule();
+    EditCell(1, 1, "  ");
+    EXPECT_EQ(TextAt(1, 1), "");
+    EXPECT_TRUE(Dirty());
+    Click("btnTranspose");
+    EXPECT_EQ(TextAt(1, 1), "");
+}
+
+TEST_F(CellEditingTest, ACellThatStoodInAnEditedOneIsGone)
+{
+    Show(kScheduleView, QStringLiteral("<TABLE><TR><TH/><TD/></TR><TR><TH/><TD AllowEdit='-1'>out<TABLE><TR><TH/>"
+                                       "<TD AllowEdit='-1'>in</TD></TR></TABLE></TD></TR></TABLE>"));
+    ASSERT_EQ(TextAt(1, 2), "in");
+    EditCell(1, 1, "x");
+    ClickCell(1, 2);
+    EXPECT_EQ(Edit(), "idle");
+    Key(Qt::Key_F2);
+    EXPECT_EQ(Edit(), "idle");
+}
+
 TEST_F(CellEditingTest, KeysWithModifiersAreLeftToTheHost)
 {
     ShowSchedule();

@@ -1,5 +1,7 @@
 // What leaves the view as a file: the questions that are asked, what is written, and what the user is told.
 
+#include "controls/PrintPreview.h"
+#include "support/ModalDialog.h"
 #include "support/TraceLog.h"
 #include "tools/EditingTest.h"
 
@@ -7,6 +9,8 @@
 #include <QFile>
 #include <QMenu>
 #include <QPageSize>
+#include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 namespace schedules {
@@ -37,6 +41,19 @@ protected:
     }
 
     std::string Files() const { return QDir(folder.path()).entryList(QDir::Files, QDir::Name).join(' ').toStdString(); }
+
+    /// "upright" or "across", and how many pages a PDF has.
+    std::string PageSize(const char* name) const
+    {
+        QProcess pdfinfo;
+        pdfinfo.start(QStringLiteral("pdfinfo"), {Path(name)});
+        EXPECT_TRUE(pdfinfo.waitForFinished());
+        const QString info = QString::fromUtf8(pdfinfo.readAllStandardOutput());
+        const auto size = QRegularExpression(QStringLiteral("Page size: +([\\d.]+) x ([\\d.]+)")).match(info);
+        const auto pages = QRegularExpression(QStringLiteral("Pages: +(\\d+)")).match(info);
+        const bool across = size.captured(1).toDouble() > size.captured(2).toDouble();
+        return (across ? "across, pages: " : "upright, pages: ") + pages.captured(1).toStdString();
+    }
 
     std::string Csv()
     {
@@ -195,6 +212,34 @@ TEST_F(ExportTest, EachFormatIsWritten)
     EXPECT_TRUE(Content(Path("xls")).startsWith("\xD0\xCF\x11\xE0"));
     EXPECT_TRUE(Content(Path("xlsx")).startsWith("PK"));
     EXPECT_TRUE(Content(Path("html")).startsWith("<!DOCTYPE html>"));
+}
+
+TEST_F(ExportTest, SmartPrintTurnsAWideTableAndPlainPrintDoesNot)
+{
+    QString row;
+    for (int column = 0; column < 12; ++column)
+        row += QStringLiteral("<TD>a value of column %1</TD>").arg(column);
+    Show(kScheduleView, QStringLiteral("<TABLE><TR><TH/>%1</TR><TR><TH/>%1</TR></TABLE>").arg(row));
+    ASSERT_EQ(view.WritePdf(Path("smart.pdf"), true, QPageSize::A4), QString());
+    ASSERT_EQ(view.WritePdf(Path("plain.pdf"), false, QPageSize::A4), QString());
+    EXPECT_EQ(PageSize("smart.pdf"), "across, pages: 1");
+    EXPECT_EQ(PageSize("plain.pdf").substr(0, 7), "upright");
+    EXPECT_NE(PageSize("plain.pdf"), "upright, pages: 1");
+}
+
+TEST_F(ExportTest, PrintShowsThePagesAndPrintsOnPaperOnlyWhenTheUserWantsIt)
+{
+    ShowTable();
+    EXPECT_TRUE(Tool("btnPrint")->isEnabled());
+    QSize shown;
+    testing::OnceModal<PrintPreview>([&](PrintPreview& preview) {
+        shown = preview.size();
+        preview.reject();
+    });
+    QTest::mouseClick(Find<QToolBar>("tbTasks")->widgetForAction(Tool("btnPrint")), Qt::LeftButton);
+    EXPECT_FALSE(shown.isEmpty());
+    EXPECT_EQ(Boxes(), "");
+    EXPECT_EQ(Log(), "") << "printing is no business of the host's";
 }
 
 TEST_F(ExportTest, APdfIsWrittenOnThePaperThatIsNamed)

@@ -272,6 +272,44 @@ TEST_F(SelectorTest, OutsideOfTheSelectorNothingIsSelected)
     EXPECT_FALSE(MenuAt(1, 1) && MenuAt(1, 1)->actions().first()->text() == QStringLiteral("Select All"));
 }
 
+TEST_F(SelectorTest, ATableLoadedAtOnceIsCollectedAsItIsShown)
+{
+    view.setProperty("ViewType", kSelectorView);
+    view.setProperty("SelectAllTags", true);
+    Initialize(view);
+    ASSERT_TRUE(view.LoadSelectionData(kSelection));
+    EXPECT_EQ(view.SchedOrientation(), 1);
+    EXPECT_EQ(Continued(), ContinueEvent("<Tags><Tag><Id>P-1</Id></Tag><Tag><Id>P-2</Id></Tag></Tags>"));
+    view.setProperty("ViewType", kScheduleView);
+    ASSERT_TRUE(view.LoadScheduleData(kEditable));
+    EXPECT_EQ(view.SchedOrientation(), 0);
+    EXPECT_EQ(Grid(), " | Flow | Head | Note\nP-1 | 12 | 48 | spare\nP-2 | 13 | 49 | fixed");
+}
+
+TEST_F(SelectorTest, EditableCellsAreTintedInTheScheduleAlone)
+{
+    Show(kScheduleView, kEditable);
+    EXPECT_TRUE(Spread()->ShowsEditable());
+    view.setProperty("ViewType", kSelectorView);
+    Activate(kSelection);
+    EXPECT_FALSE(Spread()->ShowsEditable());
+}
+
+TEST_F(SelectorTest, TheLegendGoesWithTheTable)
+{
+    view.setProperty("RowsFrozen", 1);
+    ShowSelector();
+    EXPECT_TRUE(Shown("lblLegend"));
+    Activate(kBroken);
+    view.setProperty("RowsFrozen", 0);
+    EXPECT_FALSE(Shown("lblLegend"));
+    view.setProperty("RowsFrozen", 1);
+    Activate(kTags);
+    EXPECT_TRUE(Shown("lblLegend"));
+    view.CleanUP();
+    EXPECT_FALSE(Shown("lblLegend"));
+}
+
 TEST_F(SelectorTest, AThousandTagsAreCollected)
 {
     ShowSelector(ManyTags(1000));

@@ -2,6 +2,7 @@
 
 #include "tools/EditingTest.h"
 
+#include <QMenu>
 #include <QPointer>
 #include <QRegularExpression>
 
@@ -156,6 +157,12 @@ TEST_F(WorkflowTest, CommandsCommitAnOpenEditFirst)
     withOpenEdit([this] { view.IToolUI_Deactivate(false); });
     withOpenEdit([this] { view.IToolUI_Activate(); });
     withOpenEdit([this] { view.DoColSort(); });
+    withOpenEdit([this] { view.findChild<QAbstractButton*>(QStringLiteral("cmdContinue"))->click(); });
+    withOpenEdit([this] {
+        QContextMenuEvent asked(QContextMenuEvent::Keyboard, Middle(1, 1), Spread()->mapToGlobal(Middle(1, 1)));
+        QApplication::sendEvent(Spread(), &asked);
+        delete view.findChild<QMenu*>(QStringLiteral("mnuGrid"));
+    });
 }
 
 TEST_F(WorkflowTest, TheQuestionComesAfterTheOpenEditIsCommitted)
@@ -333,6 +340,76 @@ TEST_F(WorkflowTest, AnEditDuringASaveThatFailsStaysUnsavedWithTheOthers)
     EXPECT_EQ(Marked(), "1,1 1,2");
     Click("btnTranspose");
     EXPECT_EQ(Marked(), "1,1 2,1");
+}
+
+TEST_F(WorkflowTest, AnEditDuringTheSaveOfCancelKeepsTheViewOpen)
+{
+    Show(kScheduleView, kEditable);
+    EditCell(1, 1, "20");
+    user.answers = {Answer::Yes};
+    host.onSend = [this](const QString&) {
+        host.onSend = nullptr;
+        EditCell(1, 2, "21");
+    };
+    Press("cmdCancel");
+    EXPECT_EQ(host.Names(), QStringList{"UpdateTagScheduleData"});
+    EXPECT_TRUE(Dirty());
+}
+
+TEST_F(WorkflowTest, CancelDuringTheSaveOfCancelIsTheSameOne)
+{
+    Show(kScheduleView, kEditable);
+    EditCell(1, 1, "20");
+    user.answers = {Answer::Yes};
+    host.onSend = [this](const QString&) {
+        host.onSend = nullptr;
+        Press("cmdCancel");
+    };
+    Press("cmdCancel");
+    EXPECT_EQ(host.Names(), (QStringList{"UpdateTagScheduleData", "UnloadSchedule"}));
+}
+
+TEST_F(WorkflowTest, AFailedSaveTouchesNoOtherDocument)
+{
+    Show(kScheduleView, kEditable);
+    EditCell(1, 1, "20");
+    host.failing = {QStringLiteral("UpdateTagScheduleData")};
+    host.onSend = [this](const QString&) {
+        host.onSend = nullptr;
+        Activate(kEditable);
+    };
+    Click("btnSaveTag");
+    EXPECT_FALSE(Dirty());
+    EXPECT_EQ(Marked(), "");
+}
+
+TEST_F(WorkflowTest, AFailedSaveFindsItsMarksInTheLayoutThatIsShown)
+{
+    Show(kScheduleView, kEditable);
+    EditCell(3, 1, "other");
+    host.failing = {QStringLiteral("UpdateTagScheduleData")};
+    host.onSend = [this](const QString&) {
+        host.onSend = nullptr;
+        Click("btnTranspose");
+    };
+    Click("btnSaveTag");
+    EXPECT_EQ(Marked(), "1,3");
+}
+
+TEST_F(WorkflowTest, ThePointerComesBackThoughTheViewIsGone)
+{
+    auto* other = new ctlSchedule(&user);
+    other->setProperty("ViewType", kScheduleView);
+    Initialize(*other);
+    other->IToolUI_XML(kEditable);
+    other->IToolUI_Activate();
+    host.onSend = [&](const QString&) {
+        host.onSend = nullptr;
+        delete other;
+    };
+    user.pointers.clear();
+    other->ab_ToolClick(QStringLiteral("btnHelp"));
+    EXPECT_EQ(user.pointers, (std::vector{Pointer::Hourglass, Pointer::Default}));
 }
 
 TEST_F(WorkflowTest, TransposeShowsNewTextButOnlyAnActivationLetsItBeEdited)

@@ -28,7 +28,7 @@ Qt::Alignment AlignmentOf(const CellContent& content)
 
 } // namespace
 
-CellEditing::CellEditing(SpreadView& grid, CSchedule& engine, std::function<bool()> isAllowed)
+CellEditing::CellEditing(SpreadView& grid, CSchedule& engine, std::function<bool(Cell)> isAllowed)
     : m_grid(grid), m_engine(engine), m_isAllowed(std::move(isAllowed)), m_box(new CellEditBox(grid.viewport()))
 {
     m_box->setObjectName(QStringLiteral("txtEditCell"));
@@ -59,12 +59,12 @@ const Sheet& CellEditing::Table() const
 bool CellEditing::CellEditable(Sheet::TablePlace place) const
 {
     const Cell cell = Table().CellAt(place);
-    return IsDataCell(cell) && Table().Style(cell).allowEdit;
+    return IsDataCell(cell) && Table().Style(cell).allowEdit && m_isAllowed(cell);
 }
 
 bool CellEditing::IsEditableCheckBox(Cell cell) const
 {
-    return m_isAllowed() && Table().Style(cell).type == CellType::CheckBox && CellEditable(Table().TablePlaceOf(cell));
+    return Table().Style(cell).type == CellType::CheckBox && CellEditable(Table().TablePlaceOf(cell));
 }
 
 void CellEditing::OnCellMoved(Cell cell)
@@ -79,7 +79,7 @@ void CellEditing::StartCellEdit(Cell cell)
         if (m_engine.SchedOrientation() == 1 && cell.row == Row(0)) {
             m_grid.SelectColumn(cell.column);
             m_engine.Sched()->SetRepainting(true);
-        } else if (m_isAllowed() && CellEditable(Table().TablePlaceOf(cell)) && !IsEditableCheckBox(cell))
+        } else if (CellEditable(Table().TablePlaceOf(cell)) && !IsEditableCheckBox(cell))
             BeginCellEdit(cell.column, cell.row);
     });
 }
@@ -106,10 +106,11 @@ void CellEditing::CommitCellEdit()
     const Edit edit = std::exchange(m_edit, {});
     QString text = edit.previous;
     IgnoringErrors([&] { text = m_box->FinishedValue(); });
+    if (text.trimmed().isEmpty())
+        text.clear(); // a table knows no text of white space alone
     IgnoringErrors([this] { CloseBox(); });
     if (text != edit.previous)
         Q_EMIT Changed({edit.column, edit.row}, text);
-    Q_EMIT Closed();
 }
 
 void CellEditing::CloseBox()
@@ -190,7 +191,7 @@ bool CellEditing::LeaveCheckBox(bool forward)
 
 bool CellEditing::GoOnToEditable(bool forward)
 {
-    const auto next = m_isAllowed() ? NextEditable(Table().ActiveCell(), forward ? 1 : -1) : std::nullopt;
+    const auto next = NextEditable(Table().ActiveCell(), forward ? 1 : -1);
     if (!next)
         return false;
     m_grid.Select(*next, *next);
@@ -213,7 +214,7 @@ std::optional<Cell> CellEditing::NextEditable(Cell from, int step)
         const bool hasAny = row < std::ssize(m_editableRows) && m_editableRows[row];
         for (; hasAny && column >= 1; column = columns.VisibleFrom(column + step, step)) {
             const Cell cell{Column(columns.ItemAt(column)), Row(row)};
-            if (Table().Style(cell).allowEdit)
+            if (CellEditable(Table().TablePlaceOf(cell)))
                 return cell;
         }
         column = columns.VisibleFrom(step > 0 ? 1 : columns.Count(), step);

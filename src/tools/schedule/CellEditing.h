@@ -26,11 +26,11 @@ class CellEditing : public QObject
 
 public:
     /// Both must outlive the editing, whose box (`txtEditCell`) is a child of the grid. `isAllowed` is asked whether
-    /// cells may be edited now; without a yes no edit starts.
-    CellEditing(SpreadView& grid, CSchedule& engine, std::function<bool()> isAllowed);
+    /// a cell may be edited now; without a yes no edit starts.
+    CellEditing(SpreadView& grid, CSchedule& engine, std::function<bool(Cell)> isAllowed);
     ~CellEditing() override;
 
-    /// Whether the table lets the user change the cell at that place. Headers never.
+    /// Whether the table lets the user change the cell at that place, now. Headers never.
     bool CellEditable(Sheet::TablePlace place) const;
     bool IsEditableCheckBox(Cell cell) const;
 
@@ -42,9 +42,6 @@ public:
 
 Q_SIGNALS:
     void Changed(schedules::Cell cell, const QString& text);
-
-    /// An edit has been closed, after `Changed` if there was anything to tell.
-    void Closed();
 
     /// The box has refused something that was typed or pasted.
     void Refused();
@@ -85,7 +82,7 @@ private:
 
     SpreadView& m_grid;
     CSchedule& m_engine;
-    std::function<bool()> m_isAllowed;
+    std::function<bool(Cell)> m_isAllowed;
     CellEditBox* m_box;
     Edit m_edit;
     std::vector<bool> m_editableRows; ///< by row, whether any of its cells may be edited; empty when not yet asked

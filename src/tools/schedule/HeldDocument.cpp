@@ -12,8 +12,18 @@ namespace schedules {
 
 void HeldDocument::Hold(const QString& text)
 {
+    const int number = m_number + 1;
     *this = {};
+    m_number = number;
     m_text = text;
+}
+
+bool HeldDocument::HasLost(Sheet::TablePlace place) const
+{
+    if (!m_losesCells)
+        return false;
+    const auto span = m_spans->Find(place);
+    return span && LiesInEdited(*span);
 }
 
 QString HeldDocument::Text() const
@@ -81,15 +91,19 @@ void HeldDocument::Settle()
 /// Where the unsaved elements that are still there begin in the text with all edits.
 std::set<std::uint32_t> HeldDocument::StartsOfUnsaved() const
 {
-    std::set<std::uint32_t> starts;
+    std::set<std::uint32_t> here;
     for (const Sheet::TablePlace place : m_unsaved) {
         const auto span = m_spans->Find(place);
-        if (!span || LiesInEdited(*span))
-            continue;
-        auto start = static_cast<std::int64_t>(span->start);
-        for (auto edit = m_edits.begin(); edit != m_edits.lower_bound(span->start); ++edit)
-            start += edit->second.element.size() - (static_cast<std::int64_t>(edit->second.end) - edit->first);
-        starts.insert(static_cast<std::uint32_t>(start));
+        if (span && !LiesInEdited(*span))
+            here.insert(span->start);
+    }
+    std::set<std::uint32_t> starts;
+    std::int64_t shift = 0;
+    auto edit = m_edits.begin();
+    for (const std::uint32_t start : here) {
+        for (; edit != m_edits.end() && edit->first < start; ++edit)
+            shift += edit->second.element.size() - (static_cast<std::int64_t>(edit->second.end) - edit->first);
+        starts.insert(static_cast<std::uint32_t>(start + shift));
     }
     return starts;
 }

@@ -21,11 +21,17 @@ public:
     /// Takes another text; edits are forgotten.
     void Hold(const QString& text);
 
+    /// Another one for each text that is taken.
+    int Number() const { return m_number; }
+
     /// The text with all edits; the very one that was handed over as long as nobody has edited.
     QString Text() const;
 
     /// Gives the element at that place of the table a text and marks it as dirty. False when there is no such element.
     bool SetCellText(Sheet::TablePlace place, const QString& text);
+
+    /// Whether the element at that place stood in one that has been edited since, and so is gone.
+    bool HasLost(Sheet::TablePlace place) const;
 
     /// Edits that have not been saved, by place.
     const std::set<Sheet::TablePlace>& Unsaved() const { return m_unsaved; }
@@ -47,6 +53,7 @@ private:
     std::set<std::uint32_t> StartsOfUnsaved() const;
     void FindUnsaved(const std::set<std::uint32_t>& starts);
 
+    int m_number = 0;
     QString m_text;
     std::optional<CellSpans> m_spans;      ///< once opened
     QByteArray m_utf8;                     ///< the text as the spans count

@@ -26,6 +26,10 @@ namespace schedules {
 
 namespace {
 
+// The orientation in which a table is shown first.
+constexpr int kOfSchedule = 0;
+constexpr int kOfTags = 1;
+
 constexpr auto kRowsLegend = "Note: the first data row contains selection requirements only.";
 constexpr auto kColumnsLegend = "Note: the first data column contains selection requirements only.";
 
@@ -81,7 +85,7 @@ void ctlSchedule::BuildGrid()
     m_spread->SetSheet(m_sheet);
     m_spread->setContextMenuPolicy(Qt::CustomContextMenu);
     m_engine.SetSched(m_sheet);
-    m_editing = std::make_unique<CellEditing>(*m_spread, m_engine, [this] { return MayEdit(); });
+    m_editing = std::make_unique<CellEditing>(*m_spread, m_engine, [this](Cell cell) { return MayEdit(cell); });
     m_sorting = std::make_unique<RowSorting>(*m_spread);
     setFocusProxy(m_spread);
 }
@@ -112,7 +116,6 @@ void ctlSchedule::ConnectControls()
     connect(m_cancel, &QPushButton::clicked, this, &ctlSchedule::cmdCancel_Click);
     connect(m_spread, &QWidget::customContextMenuRequested, this, &ctlSchedule::ShowContextMenu);
     connect(m_editing.get(), &CellEditing::Changed, this, &ctlSchedule::ChangeCell);
-    connect(m_editing.get(), &CellEditing::Closed, this, &ctlSchedule::FollowTagDataDirty);
     connect(m_editing.get(), &CellEditing::Refused, this, [this] { IgnoringErrors([this] { Ui().Beep(); }); });
     ConnectCheckBoxes();
 }
@@ -178,7 +181,7 @@ void ctlSchedule::Activate()
 {
     BeginCommand();
     ShowCommandButtons();
-    StartNormalLayout();
+    StartNormalLayout(IsSelectorView() ? kOfTags : kOfSchedule);
     if (std::exchange(m_xmlIsNew, false))
         LeaveFormerXml();
     if (!ShowHeldXml())
@@ -187,9 +190,9 @@ void ctlSchedule::Activate()
     IgnoringErrors([this] { FollowTagDataDirty(); });
 }
 
-void ctlSchedule::StartNormalLayout()
+void ctlSchedule::StartNormalLayout(int orientation)
 {
-    m_engine.SetSchedOrientation(IsSelectorView() ? 1 : 0);
+    m_engine.SetSchedOrientation(orientation);
     m_engine.SetTransposeData(false);
     FreezeRows(m_rowsFrozenByHost);
     FreezeColumns(m_colsFrozenByHost);
@@ -247,6 +250,7 @@ bool ctlSchedule::LoadScheduleData(const QString& sData)
     TellingUser(__func__, [&] {
         m_continue->hide();
         BeginCommand();
+        StartNormalLayout(kOfSchedule);
         HoldNewXml(sData);
         loaded = LoadSchedule();
         if (!loaded)
@@ -261,6 +265,7 @@ bool ctlSchedule::LoadSelectionData(const QString& sData)
     TellingUser(__func__, [&] {
         m_continue->show();
         BeginCommand();
+        StartNormalLayout(kOfTags);
         HoldNewXml(sData);
         loaded = LoadSelection();
         if (!loaded)
@@ -306,7 +311,7 @@ void ctlSchedule::SetColsFrozen(int count)
 
 void ctlSchedule::FollowFrozenCounts()
 {
-    if (m_showsTags)
+    if (m_showsTags || (m_rowsFrozen == 0 && m_colsFrozen == 0))
         UpdateLegend();
 }
 
@@ -329,6 +334,9 @@ void ctlSchedule::CleanUP()
         Sheet* const sheet = std::exchange(m_sheet, nullptr);
         if (!sheet)
             return;
+        m_showsTags = false;
+        m_legend->hide();
+        m_sorting->Forget();
         sheet->Reset();
         sheet->SetSize(0, 0);
     });

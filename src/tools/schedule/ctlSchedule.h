@@ -10,11 +10,13 @@
 
 class QLabel;
 class QMenu;
+class QPageSize;
 class QPushButton;
 
 namespace schedules {
 
 class CellEditing;
+struct PrintJob;
 class RowSorting;
 class ScheduleToolbar;
 class SpreadView;
@@ -128,7 +130,7 @@ private:
 
     // Showing the held document.
     void Activate();
-    void StartNormalLayout();
+    void StartNormalLayout(int orientation);
     bool ShowHeldXml();
     bool LoadSchedule();
     bool LoadSelection();
@@ -151,7 +153,7 @@ private:
     void FollowTagDataDirty();
 
     // Edited values.
-    bool MayEdit() const;
+    bool MayEdit(Cell cell) const;
     void ChangeCell(Cell cell, const QString& text);
     void SetEdited(Cell cell, bool edited);
     void MarkUnsaved();
@@ -159,9 +161,10 @@ private:
     /// What has been edited and not saved, while a save is under way.
     struct UnsavedEdits
     {
+        int document; ///< `HeldDocument::Number`
         bool dirty;
         std::set<Sheet::TablePlace> places;
-        std::vector<Cell> marked;
+        std::vector<Sheet::TablePlace> marked; ///< these, and cells without an element
     };
     UnsavedEdits TakeUnsaved();
     void PutBack(const UnsavedEdits& unsaved);
@@ -206,6 +209,7 @@ private:
     void ExportToHTML();
     void WriteHtml(const QString& fileName) const;
     void PrintSchedule();
+    std::optional<PrintJob> JobOf(const QPageSize& paper, PrintAction action);
     void cmdCancel_Click();
     bool MayUnload();
     void Unload();
@@ -227,6 +231,7 @@ private:
 
     HeldDocument m_held;
     bool m_xmlIsNew = false;    ///< the host has handed over text that no activation has loaded yet
+    bool m_leaving = false;     ///< the user has been asked, or the host is being told
     bool m_unloaded = false;    ///< the host has been told to unload the view
     bool m_initialised = false; ///< the controls around the grid have been set up
 

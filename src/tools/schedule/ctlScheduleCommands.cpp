@@ -8,6 +8,7 @@
 #include "tools/schedule/ctlSchedule.h"
 
 #include <QPointer>
+#include <QScopeGuard>
 
 #include <array>
 #include <utility>
@@ -67,7 +68,10 @@ void ctlSchedule::Transpose()
     const int rows = m_rowsFrozen;
     FreezeRows(m_colsFrozen);
     FreezeColumns(rows);
+    const QPointer<ctlSchedule> alive(this);
     ShowHeldXml();
+    if (!alive)
+        return;
     m_sheet->SetActiveCell(m_sheet->CellAt(active));
     m_spread->EnsureVisible(m_sheet->ActiveCell());
 }
@@ -87,13 +91,11 @@ void ctlSchedule::Customize()
 
 void ctlSchedule::Help()
 {
-    const QPointer<ctlSchedule> alive(this);
+    const PointerReset reset(*this);
     Ui().SetPointer(Pointer::Hourglass);
     SendRequestToOwner(Request(
         u"ProcessSubscriberEvent",
         {QStringLiteral("cmdHelp"), QLatin1String(IsSelectorView() ? kSelectorHelp : kScheduleHelp), TypeName()}));
-    if (alive)
-        Ui().SetPointer(Pointer::Default);
 }
 
 void ctlSchedule::Save()
@@ -124,7 +126,13 @@ void ctlSchedule::UpdateTagScheduleData()
 void ctlSchedule::cmdCancel_Click()
 {
     TellingUser(__func__, [this] {
+        if (std::exchange(m_leaving, true))
+            return; // the host pumps events while it saves
         const QPointer<ctlSchedule> alive(this);
+        const auto stay = qScopeGuard([&] {
+            if (alive)
+                m_leaving = false;
+        });
         BeginCommand();
         if (MayUnload() && alive)
             Unload();
@@ -138,9 +146,12 @@ bool ctlSchedule::MayUnload()
         return true;
     const QPointer<ctlSchedule> alive(this);
     const Answer answer = Ui().Show({QLatin1String(kSaveQuestion), kYesNoCancel, LoadResString(kUnsavedChangesTitle)});
-    if (alive && answer == Answer::Yes && IsScheduleView())
-        SendEdits();
-    return answer == Answer::Yes || answer == Answer::No;
+    if (!alive || answer == Answer::Cancel)
+        return false;
+    if (answer != Answer::Yes || !IsScheduleView())
+        return true;
+    SendEdits();
+    return alive && !m_engine.TagDataDirty(); // what is edited while the host saves is worth another question
 }
 
 void ctlSchedule::Unload()

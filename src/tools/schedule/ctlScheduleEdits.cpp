@@ -4,10 +4,11 @@
 
 namespace schedules {
 
-/// Between a new document and its activation the cells on screen are those of another one.
-bool ctlSchedule::MayEdit() const
+/// Between a new document and its activation the cells on screen are those of another one; and a cell that stood inside
+/// of one that has been edited is gone.
+bool ctlSchedule::MayEdit(Cell cell) const
 {
-    return IsScheduleView() && m_sheet && !m_xmlIsNew;
+    return IsScheduleView() && m_sheet && !m_xmlIsNew && !m_held.HasLost(m_sheet->TablePlaceOf(cell));
 }
 
 void ctlSchedule::ChangeCell(Cell cell, const QString& text)
@@ -40,11 +41,12 @@ void ctlSchedule::MarkUnsaved()
 
 ctlSchedule::UnsavedEdits ctlSchedule::TakeUnsaved()
 {
-    UnsavedEdits unsaved{m_engine.TagDataDirty(), m_held.Unsaved(), {}};
-    if (m_sheet)
-        unsaved.marked = m_sheet->CellsWith([](CellStyle style) { return style.edited; });
-    for (const Cell cell : unsaved.marked)
+    UnsavedEdits unsaved{m_held.Number(), m_engine.TagDataDirty(), m_held.Unsaved(), {}};
+    const auto isEdited = [](CellStyle style) { return style.edited; };
+    for (const Cell cell : m_sheet ? m_sheet->CellsWith(isEdited) : std::vector<Cell>()) {
+        unsaved.marked.push_back(m_sheet->TablePlaceOf(cell));
         SetEdited(cell, false);
+    }
     m_held.SetSaved();
     SetTagDataDirty(false);
     return unsaved;
@@ -52,13 +54,16 @@ ctlSchedule::UnsavedEdits ctlSchedule::TakeUnsaved()
 
 void ctlSchedule::PutBack(const UnsavedEdits& unsaved)
 {
+    // A host that has brought another document meanwhile has taken the edits with the former one.
+    if (unsaved.document != m_held.Number())
+        return;
     if (unsaved.dirty)
         SetTagDataDirty(true);
     m_held.AddUnsaved(unsaved.places);
     if (!m_sheet)
         return;
-    for (const Cell cell : unsaved.marked)
-        SetEdited(cell, true);
+    for (const Sheet::TablePlace place : unsaved.marked)
+        SetEdited(m_sheet->CellAt(place), true);
 }
 
 } // namespace schedules

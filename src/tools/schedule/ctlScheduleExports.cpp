@@ -12,6 +12,7 @@
 #include "workbook/Workbook.h"
 #include "workbook/XlsxWriter.h"
 
+#include <QPointer>
 #include <QScopeGuard>
 
 namespace schedules {
@@ -64,8 +65,9 @@ void ctlSchedule::ExportShown()
 /// Its result is not told to the user.
 void ctlSchedule::ExportToExcel(const Sheet& source, Sheet& target)
 {
+    const QPointer<ctlSchedule> alive(this);
     const QString fileName = Ui().AskSaveFileName(WorkbookQuestion());
-    if (fileName.isEmpty())
+    if (!alive || fileName.isEmpty())
         return;
     const auto emptied = qScopeGuard([&] { target.Reset(); });
     const QString failure = FailureOf([&] {
@@ -78,8 +80,9 @@ void ctlSchedule::ExportToExcel(const Sheet& source, Sheet& target)
 
 void ctlSchedule::ExportToHTML()
 {
+    const QPointer<ctlSchedule> alive(this);
     const QString fileName = Ui().AskSaveFileName(WebPageQuestion());
-    if (fileName.isEmpty())
+    if (!alive || fileName.isEmpty())
         return;
     const QString logName = fileName + QStringLiteral(".LOG");
     const QString failure = FailureOf([&] { WriteHtml(fileName); });
@@ -99,14 +102,23 @@ void ctlSchedule::WriteHtml(const QString& fileName) const
     WriteWebPage(*m_engine.Sched(), page, fileName);
 }
 
+/// The engine hands its job over before there is any dialog: the host may take the view away while one is open.
 void ctlSchedule::PrintSchedule()
 {
-    SheetPrinter printer({.title = m_engine.Title(), .direction = layoutDirection()},
-                         [this](const PrintJob& job) { PrintDialogs(this, Ui()).Run(job); });
-    m_engine.SetSmartPrint(true);
+    if (const auto job = JobOf(QPageSize(QPageSize::A4), PrintAction::Smart))
+        PrintDialogs(this, Ui()).Run(*job);
+}
+
+std::optional<PrintJob> ctlSchedule::JobOf(const QPageSize& paper, PrintAction action)
+{
+    std::optional<PrintJob> job;
+    SheetPrinter printer({.title = m_engine.Title(), .paper = paper, .direction = layoutDirection()},
+                         [&](const PrintJob& handedOver) { job = handedOver; });
+    m_engine.SetSmartPrint(action == PrintAction::Smart);
     m_engine.SetSheetPrinter(&printer);
     m_engine.PrintSched();
     m_engine.SetSheetPrinter(nullptr);
+    return job;
 }
 
 QString ctlSchedule::WriteFile(const QString& format, const QString& fileName)
@@ -131,18 +143,12 @@ QString ctlSchedule::WriteFile(const QString& format, const QString& fileName)
 QString ctlSchedule::WritePdf(const QString& fileName, bool smart, int pageSize)
 {
     BeginCommand();
-    const auto size = static_cast<QPageSize::PageSizeId>(pageSize);
+    const QPageSize paper(static_cast<QPageSize::PageSizeId>(pageSize));
     return FailureOf([&] {
-        QByteArray pdf;
-        SheetPrinter printer({.title = m_engine.Title(), .paper = QPageSize(size), .direction = layoutDirection()},
-                             [&](const PrintJob& job) { pdf = PdfOf(job); });
-        const auto detached = qScopeGuard([this] { m_engine.SetSheetPrinter(nullptr); });
-        m_engine.SetSmartPrint(smart);
-        m_engine.SetSheetPrinter(&printer);
-        m_engine.PrintSched();
-        if (pdf.isEmpty())
+        const auto job = JobOf(paper, smart ? PrintAction::Smart : PrintAction::Plain);
+        if (!job)
             throw Error(kUnexpectedError, QStringLiteral("The schedule was not printed."));
-        ReplaceFile(fileName, pdf);
+        ReplaceFile(fileName, PdfOf(*job));
     });
 }
 
