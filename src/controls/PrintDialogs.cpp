@@ -4,10 +4,14 @@
 #include "common/modResource.h"
 #include "controls/PrintPreview.h"
 #include "controls/SheetPrinterPages.h"
+#include "controls/SheetPrinterWatch.h"
 
+#include <QElapsedTimer>
+#include <QPointer>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QProgressBar>
 #include <QProgressDialog>
 #include <QRegularExpression>
 
@@ -21,22 +25,39 @@ constexpr int kQuietMilliseconds = 1000;
 class ShownProgress
 {
 public:
-    explicit ShownProgress(QWidget* window) : m_dialog({}, ComponentText("Cancel"), 0, 0, window)
+    explicit ShownProgress(QWidget* window)
+        : m_dialog(new QProgressDialog({}, ComponentText("Cancel"), 0, 0, window)), m_bar(new QProgressBar)
     {
-        m_dialog.setWindowModality(Qt::WindowModal);
-        m_dialog.setMinimumDuration(kQuietMilliseconds);
+        m_dialog->setBar(m_bar);
+        m_dialog->setWindowModality(Qt::WindowModal);
+        m_time.start();
     }
+    ~ShownProgress() { delete m_dialog; }
+    Q_DISABLE_COPY_MOVE(ShownProgress)
 
     bool operator()(int page, int pages)
     {
-        m_dialog.setMaximum(pages);
-        m_dialog.setLabelText(ComponentText("Printing page %1 of %2").arg(page).arg(pages));
-        m_dialog.setValue(page - 1);
-        return !m_dialog.wasCanceled();
+        if (m_time.elapsed() < kQuietMilliseconds)
+            return true;
+        if (m_dialog)
+            Tell(page, pages);
+        QCoreApplication::processEvents();
+        return m_dialog && !m_dialog->wasCanceled();
     }
 
 private:
-    QProgressDialog m_dialog;
+    /// The dialog's own way to set its value handles events, and does not survive being deleted by one.
+    void Tell(int page, int pages)
+    {
+        m_dialog->setMaximum(pages);
+        m_dialog->setLabelText(ComponentText("Printing page %1 of %2").arg(page).arg(pages));
+        m_bar->setValue(page - 1);
+        m_dialog->show();
+    }
+
+    QPointer<QProgressDialog> m_dialog;
+    QProgressBar* m_bar;
+    QElapsedTimer m_time;
 };
 
 /// A title as the name of a file.
@@ -46,12 +67,15 @@ QString PdfNameFor(const QString& title)
     return QString(title).replace(forbidden, QStringLiteral("-")).trimmed() + QStringLiteral(".pdf");
 }
 
-bool AskPrinter(QPrinter& printer, QWidget* window)
+bool AskPrinter(QPrinter& printer, int pages, QWidget* window)
 {
-    QPrintDialog dialog(&printer, window);
-    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
-                      QAbstractPrintDialog::PrintCollateCopies);
-    return dialog.exec() == QDialog::Accepted;
+    const QPointer dialog = new QPrintDialog(&printer, window);
+    dialog->setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
+                       QAbstractPrintDialog::PrintCollateCopies);
+    dialog->setMinMax(1, pages);
+    const bool accepted = dialog->exec() == QDialog::Accepted;
+    delete dialog;
+    return accepted;
 }
 
 /// What the user has changed in the print dialog.
@@ -83,12 +107,24 @@ QWidget* PrintDialogs::Window() const
 
 void PrintDialogs::Run(const PrintJob& job)
 {
-    PrintPreview preview(job, m_desk.hasPrinter(), Window());
-    switch (preview.Ask()) {
+    const bool standsAlone = !m_parent;
+    try {
+        Deliver(job);
+    } catch (...) {
+        // The sheet goes with the parent, and so do those who could be told.
+        if (standsAlone || m_parent)
+            throw;
+    }
+}
+
+void PrintDialogs::Deliver(const PrintJob& job)
+{
+    const auto answer = PrintPreview::Ask(job, m_desk.hasPrinter(), Window());
+    switch (answer.choice) {
     case PrintPreview::Choice::Print:
-        return Print(preview.Job());
+        return Print(answer.job);
     case PrintPreview::Choice::SavePdf:
-        return SavePdf(preview.Job());
+        return SavePdf(answer.job);
     case PrintPreview::Choice::Cancel:
         return;
     }
@@ -98,9 +134,12 @@ void PrintDialogs::Print(PrintJob job)
 {
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(job.title);
-    printer.setPageLayout(SheetPrinterPages(job, printer).PageLayout());
-    if (!m_desk.ask(printer, Window()))
+    const SheetPrinterPages pages(job, printer);
+    printer.setPageLayout(pages.PageLayout());
+    const SheetPrinterWatch watch(*job.sheet);
+    if (!m_desk.ask(printer, pages.Count(), Window()))
         return;
+    watch.RequireUnchanged();
     TakeOver(job, printer);
     // Written by the printer, a file on a full disk would look like a success.
     if (!printer.outputFileName().isEmpty())
@@ -111,13 +150,16 @@ void PrintDialogs::Print(PrintJob job)
 
 void PrintDialogs::SavePdf(const PrintJob& job)
 {
+    const SheetPrinterWatch watch(*job.sheet);
     const QString fileName = m_userInterface.AskSaveFileName({.title = ComponentText("Save as PDF..."),
                                                               .fileName = PdfNameFor(job.title),
                                                               .defaultSuffix = QStringLiteral("pdf"),
                                                               .filters = {ComponentText("PDF documents (*.pdf)")},
                                                               .flags = kOverwritePrompt | kPathMustExist});
-    if (!fileName.isEmpty())
-        WritePdf(job, fileName);
+    if (fileName.isEmpty())
+        return;
+    watch.RequireUnchanged();
+    WritePdf(job, fileName);
 }
 
 void PrintDialogs::WritePdf(const PrintJob& job, const QString& fileName)

@@ -7,13 +7,14 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 #include <array>
-#include <utility>
 
 namespace schedules {
 
@@ -28,7 +29,7 @@ constexpr double kShareOfScreen = 0.85;
 } // namespace
 
 PrintPreview::PrintPreview(const PrintJob& job, bool hasPrinter, QWidget* parent)
-    : QDialog(parent), m_job(job), m_stage(new PreviewStage(this))
+    : QDialog(parent), m_job(job), m_watch(*job.sheet, [this] { reject(); }), m_stage(new PreviewStage(this))
 {
     setWindowTitle(ComponentText("Print preview"));
     setSizeGripEnabled(true);
@@ -36,18 +37,25 @@ PrintPreview::PrintPreview(const PrintJob& job, bool hasPrinter, QWidget* parent
     rows->addLayout(NavigationRow());
     rows->addWidget(m_stage, 1);
     rows->addLayout(ChoiceRow(hasPrinter));
+    m_stage->Show(m_job, 0);
+    Refresh();
     resize(sizeHint().expandedTo(screen()->availableSize() * kShareOfScreen).boundedTo({1100, 1000}));
 }
 
-PrintPreview::Choice PrintPreview::Ask()
+PrintPreview::Answer PrintPreview::Ask(const PrintJob& job, bool hasPrinter, QWidget* parent)
 {
-    m_choice = Choice::Cancel;
-    m_stage->Show(m_job, 0);
-    Refresh();
-    exec();
+    const QPointer preview = new PrintPreview(job, hasPrinter, parent);
+    const auto end = qScopeGuard([&preview] { delete preview; });
+    preview->exec();
+    return preview ? preview->GivenAnswer() : Answer();
+}
+
+PrintPreview::Answer PrintPreview::GivenAnswer() const
+{
+    m_watch.RequireUnchanged();
     if (m_failure)
-        std::rethrow_exception(std::exchange(m_failure, nullptr));
-    return m_choice;
+        std::rethrow_exception(m_failure);
+    return {m_choice, m_job};
 }
 
 QLayout* PrintPreview::NavigationRow()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/SheetPrinter.h"
+#include "controls/SheetPrinterWatch.h"
 
 #include <QDialog>
 
@@ -32,11 +33,15 @@ public:
     /// Without a printer, printing is not offered.
     PrintPreview(const PrintJob& job, bool hasPrinter, QWidget* parent);
 
-    /// Shows the dialog until the user has chosen. Throws `Error` when a page cannot be painted.
-    Choice Ask();
+    struct Answer
+    {
+        Choice choice = Choice::Cancel;
+        PrintJob job; ///< on the paper that the user has chosen
+    };
 
-    /// The job on the paper that the user has chosen.
-    const PrintJob& Job() const { return m_job; }
+    /// Shows the dialog until the user has chosen. A dialog whose parent is deleted meanwhile is deleted, too, and
+    /// counts as cancelled. Throws `Error` when a page cannot be painted, or the sheet changes or is deleted.
+    static Answer Ask(const PrintJob& job, bool hasPrinter, QWidget* parent);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -51,8 +56,10 @@ private:
     void Step(int step);
     void Refresh();
     void Choose(Choice choice);
+    Answer GivenAnswer() const;
 
     PrintJob m_job;
+    SheetPrinterWatch m_watch;
     PreviewStage* m_stage;
     QLabel* m_pageLabel = nullptr;
     QToolButton* m_previous = nullptr;

@@ -2,10 +2,13 @@
 
 #include "common/Error.h"
 #include "controls/SheetPrinterPages.h"
+#include "controls/SheetPrinterWatch.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QPdfWriter>
+#include <QPrinter>
+#include <QScopeGuard>
 
 #include <utility>
 
@@ -30,7 +33,39 @@ std::vector<int> PagesOf(const PrintJob& job, int count)
         if (job.pages.isEmpty() || job.pages.contains(page + 1))
             pages.push_back(page);
     }
+    if (pages.empty()) {
+        throw Error(kUnexpectedError, QStringLiteral("There is nothing to print on the pages %1: the last page is %2.")
+                                          .arg(job.pages.toString())
+                                          .arg(count));
+    }
     return pages;
+}
+
+/// Takes back what has been painted, on systems that can.
+void Withdraw(QPagedPaintDevice& device)
+{
+    if (auto* const printer = dynamic_cast<QPrinter*>(&device))
+        printer->abort();
+}
+
+bool PaintOn(QPagedPaintDevice& device, const PrintJob& job, const PrintProgress& progress)
+{
+    const SheetPrinterWatch watch(*job.sheet);
+    SheetPrinterPages pages(job, device);
+    const std::vector<int> numbers = PagesOf(job, pages.Count());
+    Require(device.setPageLayout(pages.PageLayout()));
+    QPainter painter;
+    auto withdrawal = qScopeGuard([&device] { Withdraw(device); });
+    for (const int number : numbers) {
+        if (progress && !progress(number + 1, pages.Count()))
+            return false;
+        watch.RequireUnchanged();
+        Require(painter.isActive() ? device.newPage() : painter.begin(&device));
+        pages.Paint(painter, number);
+    }
+    Require(painter.end());
+    withdrawal.dismiss();
+    return true;
 }
 
 } // namespace
@@ -61,16 +96,7 @@ void SheetPrinter::Print(const Sheet& sheet, PrintAction action)
 
 bool PrintOn(QPagedPaintDevice& device, const PrintJob& job, const PrintProgress& progress)
 {
-    SheetPrinterPages pages(job, device);
-    Require(device.setPageLayout(pages.PageLayout()));
-    QPainter painter;
-    for (const int number : PagesOf(job, pages.Count())) {
-        if (progress && !progress(number + 1, pages.Count()))
-            return false;
-        Require(painter.isActive() ? device.newPage() : painter.begin(&device));
-        pages.Paint(painter, number);
-    }
-    return !painter.isActive() || painter.end();
+    return !PdfOf(job, progress).isEmpty() && PaintOn(device, job, {});
 }
 
 QByteArray PdfOf(const PrintJob& job, const PrintProgress& progress)
@@ -82,7 +108,7 @@ QByteArray PdfOf(const PrintJob& job, const PrintProgress& progress)
     writer.setResolution(kPdfResolution);
     writer.setTitle(job.title);
     writer.setCreator(QCoreApplication::applicationName());
-    return PrintOn(writer, job, progress) ? bytes : QByteArray();
+    return PaintOn(writer, job, progress) ? bytes : QByteArray();
 }
 
 } // namespace schedules

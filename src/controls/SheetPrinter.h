@@ -23,7 +23,8 @@ struct PrintJob
     Qt::LayoutDirection direction = Qt::LeftToRight;
 };
 
-/// Is told before each page which one it is, from 1, and of how many; printing ends when it returns false.
+/// Is told before each page which one it is, from 1, and of how many; printing ends when it returns false. It may
+/// handle events; a sheet that changes, or is deleted, meanwhile ends the printing with an `Error`.
 using PrintProgress = std::function<bool(int page, int pages)>;
 
 /// Takes an engine's settings and delivers them, with the sheet, as one job.
@@ -45,11 +46,15 @@ private:
     Deliver m_deliver;
 };
 
-/// Prints on a device. Paper, orientation and margins are set on it. Returns
-/// whether it came to the end. Throws `Error` when the device fails, or no font is there.
+/// Prints on a device. Paper, orientation and margins are set on it. Returns whether it came to the end; false when it
+/// was cancelled. Throws `Error` when the device fails, no font is there, or none of the job's pages exists.
+///
+/// A printer prints what it has got, be it complete or not. So all pages are rehearsed first, with the progress, and a
+/// job that is cancelled or fails then leaves the device untouched; the pages themselves follow in one go.
 bool PrintOn(QPagedPaintDevice& device, const PrintJob& job, const PrintProgress& progress = {});
 
-/// The job as a PDF document with text that can be searched and fonts embedded. Empty when it was cancelled.
+/// The job as a PDF document with text that can be searched and fonts embedded. Empty when it was cancelled, and only
+/// then: a failure throws `Error` as above.
 QByteArray PdfOf(const PrintJob& job, const PrintProgress& progress = {});
 
 } // namespace schedules

@@ -178,7 +178,8 @@ private:
 
     ISheetPrinter& RequiredPrinter() const;
     void SetPrintOptions(ISheetPrinter& printer) const;
-    QString HeaderWith(const QString& title) const;
+    /// `written` is how a text stands among the codes.
+    QString HeaderWith(QString (*written)(QString text)) const;
 
     UserInterface& m_userInterface;
     Sheet* m_sched = nullptr;

@@ -23,6 +23,11 @@ QString ShortTime(const QDateTime& moment)
     return QLocale().toString(moment.time(), QLocale::ShortFormat);
 }
 
+QString AsItStands(QString text)
+{
+    return text;
+}
+
 } // namespace
 
 void CSchedule::PrintSched()
@@ -31,7 +36,7 @@ void CSchedule::PrintSched()
         RequireSheet();
         ISheetPrinter& printer = RequiredPrinter();
         SetPrintOptions(printer);
-        printer.SetHeader(m_printHeader ? HeaderWith(ProtectedFromCodes(Title())) : QString());
+        printer.SetHeader(m_printHeader ? HeaderWith(ProtectedFromCodes) : QString());
         for (const PageEdge edge : {PageEdge::Left, PageEdge::Right, PageEdge::Top, PageEdge::Bottom})
             printer.SetMargin(edge, kMargin);
         printer.Print(*m_sched, m_smartPrint ? PrintAction::Smart : PrintAction::Plain);
@@ -56,18 +61,19 @@ void CSchedule::SetPrintOptions(ISheetPrinter& printer) const
 
 QString CSchedule::GetPageHeader() const
 {
-    return HeaderWith(Title());
+    return HeaderWith(AsItStands);
 }
 
-QString CSchedule::HeaderWith(const QString& title) const
+QString CSchedule::HeaderWith(QString (*written)(QString text)) const
 {
     QString header;
+    const QString title = written(Title());
     if (!title.trimmed().isEmpty())
         header += QStringLiteral("/fn\"Arial\"/fz\"12\"/fb1/c") + title + QStringLiteral("/n");
     if (!m_printHeader)
         return header;
-    const QString date = ShortDate(m_clock());
-    const QString time = ShortTime(m_clock());
+    const QString date = written(ShortDate(m_clock()));
+    const QString time = written(ShortTime(m_clock()));
     return header + QStringLiteral("/fn\"Arial\"/fz\"8\"/fb0/l/r") + date + QStringLiteral("/n/l/r") + time +
            QStringLiteral("/n");
 }

@@ -1,72 +1,19 @@
 // Printing as the user of a desktop does it.
 
-#include "controls/PrintDialogs.h"
-
 #include "common/Error.h"
-#include "controls/DrawnSheet.h"
 #include "controls/PreviewStage.h"
-#include "controls/PrintPreview.h"
+#include "controls/PrintDialogsFixture.h"
 #include "controls/PrintedPdf.h"
-#include "support/ModalDialog.h"
-#include "support/ScriptedUserInterface.h"
 
 #include <QComboBox>
 #include <QLabel>
 #include <QPrintDialog>
-#include <QPrinter>
 #include <QProgressDialog>
-#include <QPushButton>
-#include <QTest>
 #include <QToolButton>
 
 namespace schedules::testing {
 
 namespace {
-
-/// A user before the print of a sheet of 50 rows: three pages of A4.
-struct PrintDialogsTest : ::testing::Test
-{
-    PrintDialogsTest()
-    {
-        for (int row = 0; row <= 50; ++row)
-            sheet->SetRowHeight(Row(row), 720);
-        job.sheet = sheet.get();
-        job.title = QStringLiteral("Pumps/newly added");
-    }
-
-    void Run() { PrintDialogs(nullptr, user, desk).Run(job); }
-
-    QString FileIn(const QString& name) const { return folder.filePath(name); }
-
-    static QByteArray ContentOf(const QString& fileName)
-    {
-        QFile file(fileName);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
-    const std::unique_ptr<Sheet> sheet = DrawnSheet(QStringLiteral("Pump|Flow") + QStringLiteral("\nP|1").repeated(50));
-    PrintJob job;
-    ScriptedUserInterface user;
-    bool hasPrinter = true;
-    std::function<bool(QPrinter&)> answer = [](QPrinter&) { return false; };
-    int asked = 0;
-    PrinterDesk desk{.hasPrinter = [this] { return hasPrinter; },
-                     .ask =
-                         [this](QPrinter& printer, QWidget*) {
-                             ++asked;
-                             return answer(printer);
-                         }};
-    QTemporaryDir folder;
-};
-
-void Click(QWidget& dialog, const QString& text)
-{
-    for (auto* const button : dialog.findChildren<QPushButton*>()) {
-        if (button->text() == text)
-            return QTest::mouseClick(button, Qt::LeftButton);
-    }
-    ADD_FAILURE() << "no button " << text.toStdString();
-}
 
 QStringList Buttons(const QWidget& dialog)
 {
@@ -74,16 +21,6 @@ QStringList Buttons(const QWidget& dialog)
     for (const auto* const button : dialog.findChildren<QPushButton*>())
         texts << button->text();
     return texts;
-}
-
-void OnPreview(const std::function<void(PrintPreview&)>& action)
-{
-    OnceModal<PrintPreview>(action);
-}
-
-void ClickInPreview(const QString& text)
-{
-    OnPreview([text](PrintPreview& preview) { Click(preview, text); });
 }
 
 QString Page(const PrintPreview& preview)
@@ -197,7 +134,38 @@ TEST_F(PrintDialogsTest, ThePlatformsPrintDialogCanBeCancelled)
 {
     QPrinter printer;
     OnceModal<QPrintDialog>([](QPrintDialog& dialog) { dialog.reject(); });
-    EXPECT_FALSE(PrinterDesk::OfPlatform().ask(printer, nullptr));
+    EXPECT_FALSE(PrinterDesk::OfPlatform().ask(printer, 3, nullptr));
+}
+
+TEST_F(PrintDialogsTest, ThePlatformsPrintDialogOffersThePagesThatExist)
+{
+    QPrinter printer;
+    std::pair<int, int> range;
+    OnceModal<QPrintDialog>([&](QPrintDialog& dialog) {
+        range = {dialog.minPage(), dialog.maxPage()};
+        dialog.reject();
+    });
+    PrinterDesk::OfPlatform().ask(printer, 3, nullptr);
+    EXPECT_EQ(range, std::pair(1, 3));
+}
+
+TEST_F(PrintDialogsTest, ThePrintDialogIsToldHowManyPagesThereAre)
+{
+    ClickInPreview("Print...");
+    Run();
+    EXPECT_EQ(pagesAsked, 3);
+}
+
+TEST_F(PrintDialogsTest, ARangeBeyondTheEndIsAnErrorAndPrintsNothing)
+{
+    answer = [&](QPrinter& printer) {
+        printer.setOutputFileName(FileIn("printed.pdf"));
+        printer.setPageRanges(QPageRanges::fromString("4-9"));
+        return true;
+    };
+    ClickInPreview("Print...");
+    EXPECT_THROW(Run(), Error);
+    EXPECT_TRUE(QDir(folder.path()).isEmpty());
 }
 
 TEST_F(PrintDialogsTest, ThePreviewStepsThroughThePages)

@@ -4,6 +4,7 @@
 
 #include "common/CompiledTable.h"
 #include "common/Error.h"
+#include "controls/FailingPrinter.h"
 #include "controls/PrintedSheet.h"
 #include "controls/SheetPrinterFonts.h"
 
@@ -13,6 +14,21 @@
 #include <QProcess>
 
 namespace schedules::testing {
+
+namespace {
+
+const QString kThreePages = QStringLiteral("Pump|Flow") + QStringLiteral("\nP|1").repeated(50);
+
+PrintProgress FailOnPage(int failing)
+{
+    return [failing](int page, int) {
+        if (page == failing)
+            throw Error(kUnexpectedError, QStringLiteral("No memory"));
+        return true;
+    };
+}
+
+} // namespace
 
 TEST(SheetPrinter, APageHasHeaderTableAndPageNumber)
 {
@@ -113,7 +129,7 @@ TEST(SheetPrinter, AnEndlessTitleLeavesRoomForTheTable)
 
 TEST(SheetPrinter, ProgressIsToldBeforeEachPage)
 {
-    Printed printed(QStringLiteral("Pump|Flow") + QStringLiteral("\nP|1").repeated(50));
+    Printed printed(kThreePages);
     std::string told;
     PdfOf(printed.job, [&](int page, int pages) {
         told += std::to_string(page) + "/" + std::to_string(pages) + " ";
@@ -124,14 +140,83 @@ TEST(SheetPrinter, ProgressIsToldBeforeEachPage)
 
 TEST(SheetPrinter, ACancelledDocumentIsEmpty)
 {
-    Printed printed(QStringLiteral("Pump|Flow") + QStringLiteral("\nP|1").repeated(50));
+    Printed printed(kThreePages);
     EXPECT_TRUE(PdfOf(printed.job, [](int page, int) { return page < 2; }).isEmpty());
     EXPECT_TRUE(PdfOf(printed.job, [](int, int) { return false; }).isEmpty());
 }
 
+TEST(SheetPrinter, ACancelledOrFailedJobLeavesThePrinterUntouched)
+{
+    Printed printed(kThreePages);
+    FailingPrinter printer;
+    EXPECT_FALSE(PrintOn(printer, printed.job, [](int page, int) { return page < 3; }));
+    EXPECT_THROW(PrintOn(printer, printed.job, FailOnPage(3)), Error);
+    EXPECT_EQ(printer.Told(), "");
+}
+
+TEST(SheetPrinter, ACancelledOrFailedJobWritesNoDocument)
+{
+    Printed printed(kThreePages);
+    const QTemporaryDir folder;
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFileName(folder.filePath(QStringLiteral("printer.pdf")));
+    EXPECT_FALSE(PrintOn(printer, printed.job, [](int page, int) { return page < 3; }));
+    EXPECT_THROW(PrintOn(printer, printed.job, FailOnPage(3)), Error);
+    EXPECT_FALSE(QFile::exists(printer.outputFileName()));
+}
+
+TEST(SheetPrinter, WhatAFailingPrinterHasGotIsWithdrawn)
+{
+    Printed printed(kThreePages);
+    FailingPrinter printer;
+    EXPECT_THROW(PrintOn(printer, printed.job), Error);
+    EXPECT_EQ(printer.Told(), "begin, page, abort, end");
+}
+
+TEST(SheetPrinter, PagesBeyondTheEndAreAnError)
+{
+    Printed printed(kThreePages);
+    printed.job.pages = QPageRanges::fromString(QStringLiteral("4-5"));
+    try {
+        PdfOf(printed.job);
+        FAIL() << "printed";
+    } catch (const Error& error) {
+        EXPECT_EQ(error.Description(),
+                  QStringLiteral("There is nothing to print on the pages 4-5: the last page is 3."));
+    }
+}
+
+TEST(SheetPrinter, PagesAreThoseOfARangeThatExist)
+{
+    Printed printed(kThreePages);
+    printed.job.pages = QPageRanges::fromString(QStringLiteral("3-5"));
+    EXPECT_EQ(printed.Pdf().Info("Pages"), "1");
+}
+
+TEST(SheetPrinter, ASheetThatChangesWhileItIsPrintedIsAnError)
+{
+    Printed printed(kThreePages);
+    const auto change = [&](int page, int) {
+        if (page == 2)
+            printed.sheet->SetSize(1, 1);
+        return true;
+    };
+    EXPECT_THROW(PdfOf(printed.job, change), Error);
+}
+
+TEST(SheetPrinter, ASheetThatIsDeletedWhileItIsPrintedIsAnError)
+{
+    Printed printed(kThreePages);
+    const auto end = [&](int, int) {
+        printed.sheet.reset();
+        return true;
+    };
+    EXPECT_THROW(PdfOf(printed.job, end), Error);
+}
+
 TEST(SheetPrinter, PageRangesArePrintedAlone)
 {
-    Printed printed(QStringLiteral("Pump|Flow") + QStringLiteral("\nP|1").repeated(50));
+    Printed printed(kThreePages);
     printed.job.pages = QPageRanges::fromString(QStringLiteral("2-3"));
     EXPECT_EQ(printed.Pdf().Info("Pages"), "2");
     EXPECT_TRUE(printed.Text(1).ends_with("\nPage 2 of 3"));

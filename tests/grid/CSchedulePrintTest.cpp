@@ -72,6 +72,8 @@ struct CSchedulePrint : ScheduleFixture
 
 const QString kTitleLine = QStringLiteral("/fn\"Arial\"/fz\"12\"/fb1/cPumps/n");
 const QString kMomentLines = QStringLiteral("/fn\"Arial\"/fz\"8\"/fb0/l/r12/31/24/n/l/r12:05 AM/n");
+const QString kPrintedMomentLines = QStringLiteral("/fn\"Arial\"/fz\"8\"/fb0/l/r") +
+                                    ProtectedFromCodes(QStringLiteral("12/31/24")) + QStringLiteral("/n/l/r12:05 AM/n");
 
 } // namespace
 
@@ -231,7 +233,7 @@ TEST_F(CSchedulePrint, SmartPrintTakesTheSmartAction)
 TEST_F(CSchedulePrint, ThePrinterGetsTheHeader)
 {
     engine.PrintSched();
-    EXPECT_EQ(printer.header, kTitleLine + kMomentLines);
+    EXPECT_EQ(printer.header, kTitleLine + kPrintedMomentLines);
 }
 
 TEST_F(CSchedulePrint, ATitlesSlashesDoNotActAsCodesOnPaper)
@@ -246,6 +248,18 @@ TEST_F(CSchedulePrint, ATitlesSlashesDoNotActAsCodesOnPaper)
     EXPECT_EQ(lines[1].Part(HeaderPart::Right), (std::vector{HeaderRun{QStringLiteral("12/31/24"), moment}}));
     EXPECT_EQ(lines[2].Part(HeaderPart::Right), (std::vector{HeaderRun{QStringLiteral("12:05 AM"), moment}}));
     EXPECT_TRUE(lines[1].Part(HeaderPart::Left).empty());
+}
+
+TEST_F(CSchedulePrint, ADatesSlashesDoNotActAsCodesOnPaper)
+{
+    engine.PrintSched();
+    EXPECT_FALSE(printer.header.contains(QStringLiteral("12/31/24")));
+    EXPECT_TRUE(printer.header.contains(ProtectedFromCodes(QStringLiteral("12/31/24"))));
+}
+
+TEST_F(CSchedulePrint, ThePageHeaderBearsTheDateAsItStands)
+{
+    EXPECT_TRUE(engine.GetPageHeader().contains(QStringLiteral("/l/r12/31/24/n")));
 }
 
 TEST_F(CSchedulePrint, AFailureIsReportedAndThePropertiesStay)
