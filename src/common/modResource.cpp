@@ -163,6 +163,12 @@ void SetResourceModule(int handle)
     Modules().Use(handle);
 }
 
+QString ResourceLanguage()
+{
+    const Module* module = Modules().InUse();
+    return module ? QLocale(module->texts.language()).bcp47Name() : QString();
+}
+
 QString LoadResString(int number)
 {
     if (ResourceModule() == 0)

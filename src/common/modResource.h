@@ -26,6 +26,9 @@ void CloseResourceModule(int handle);
 int ResourceModule();
 void SetResourceModule(int handle);
 
+/// The language of the module's texts as a tag such as "de"; empty while no module is set.
+QString ResourceLanguage();
+
 /// The text of that number: "Missing: " and the number while no module is set, empty when the module lacks it.
 QString LoadResString(int number);
 

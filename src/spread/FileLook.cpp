@@ -18,11 +18,6 @@ constexpr std::array<std::uint32_t, 31> kSystemColors{
 
 constexpr std::uint32_t kWhite = 0xFFFFFF;
 
-std::uint32_t RedAndBlueSwapped(std::uint32_t color)
-{
-    return (color & 0xFF) << 16 | (color & 0xFF00) | (color >> 16 & 0xFF);
-}
-
 std::string_view Trimmed(std::string_view text)
 {
     const std::size_t first = text.find_first_not_of(kBlanks);
@@ -58,6 +53,11 @@ CellEdge EdgeOf(HorizontalAlignment alignment, CellStyle style, std::string_view
     if (alignment == HorizontalAlignment::Data && (IsNumeric(style.dataType) || ReadsAsNumber(utf8)))
         return CellEdge::Far;
     return CellEdge::Near;
+}
+
+std::uint32_t RedAndBlueSwapped(std::uint32_t color)
+{
+    return (color & 0xFF) << 16 | (color & 0xFF00) | (color >> 16 & 0xFF);
 }
 
 std::uint32_t FixedColor(std::uint32_t number)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "spread/FileLook.h"
+#include "webpage/PaperColumns.h"
 
 #include <compare>
 #include <map>
@@ -25,6 +26,9 @@ struct PageLook
 /// What a back color is on a page.
 std::uint32_t PageFill(std::optional<std::uint32_t> backColor);
 
+/// The class of the table for a group of columns.
+std::string GroupClass(std::size_t number);
+
 /// The style sheet of a page, and the classes by which cells refer to it.
 class PageStyles
 {
@@ -34,8 +38,11 @@ public:
     /// The classes of a cell, blanks between; empty for one that looks like most.
     std::string ClassesOf(const PageLook& look) const;
 
-    /// The whole style sheet.
+    /// The rules for all cells, on screens and on paper.
     std::string Rules() const;
+
+    /// The rules for the columns on paper.
+    static std::string PaperRules(const PaperColumns& paper);
 
 private:
     std::map<std::uint32_t, std::string> m_colorClasses;

@@ -19,7 +19,8 @@ std::string BoxOf(const char* box, const QString& label)
 
 } // namespace
 
-PageTable::PageTable(const Sheet& sheet, const PageInfo& page, const PageStyles& styles, BufferedOutput& output)
+PageTable::PageTable(const Sheet& sheet, const PageInfo& page, const PageStyles& styles,
+                     const std::vector<Column>& columns, BufferedOutput& output)
     : m_sheet(sheet),
       m_styles(styles),
       m_output(output),
@@ -27,14 +28,14 @@ PageTable::PageTable(const Sheet& sheet, const PageInfo& page, const PageStyles&
       m_ticked(BoxOf("☑", page.ticked)),
       m_unticked(BoxOf("☐", page.unticked))
 {
-    for (int position = 0; position <= sheet.ColumnCount(); ++position) {
-        if (const Column column{sheet.Columns().ItemAt(position)}; !sheet.Hidden(column))
-            m_columns.push_back({column, &TagOf({})});
-    }
+    for (const Column column : columns)
+        m_columns.push_back({column, &TagOf({})});
 }
 
 void PageTable::Write()
 {
+    if (m_columns.empty())
+        return;
     if (!m_sheet.Hidden(kColumnHeaders))
         WriteHead();
     WriteBody();

@@ -8,11 +8,12 @@
 
 namespace schedules {
 
-/// Writes the rows of a page's table: what the sheet shows, in the order in which it shows it.
+/// Writes the rows of a table of some columns: those that the sheet shows, in the order in which it shows them.
 class PageTable
 {
 public:
-    PageTable(const Sheet& sheet, const PageInfo& page, const PageStyles& styles, BufferedOutput& output);
+    PageTable(const Sheet& sheet, const PageInfo& page, const PageStyles& styles, const std::vector<Column>& columns,
+              BufferedOutput& output);
 
     void Write();
 

@@ -8,6 +8,7 @@ namespace schedules {
 namespace {
 
 constexpr std::string_view kFormulaStarts = "=+-@\t\r\n";
+constexpr std::string_view kEmptyField = "\"\"";
 constexpr std::string_view kMarks = ",\"\r\n";
 
 bool RunsAsFormula(std::string_view utf8)
@@ -32,17 +33,30 @@ std::string CsvField(std::string_view utf8)
     return text.find_first_of(kMarks) == text.npos ? text : Quoted(text);
 }
 
+namespace {
+
+void AppendRow(std::string& csv, const Sheet& sheet, Row row)
+{
+    for (Column column{1}; column.Value() <= sheet.ColumnCount(); ++column) {
+        if (column.Value() > 1)
+            csv += ',';
+        csv += CsvField(sheet.Utf8({column, row}));
+    }
+    // A line without anything on it reads as no row at all.
+    if (sheet.ColumnCount() == 1 && sheet.Utf8({Column(1), row}).empty())
+        csv += kEmptyField;
+    csv += "\r\n";
+}
+
+} // namespace
+
 void WriteCsv(const Sheet& sheet, const QString& fileName)
 {
     ReplaceFile(fileName, [&](QFileDevice& file) {
         BufferedOutput output(file);
-        for (Row row{1}; row.Value() <= sheet.RowCount(); ++row) {
-            for (Column column{1}; column.Value() <= sheet.ColumnCount(); ++column) {
-                if (column.Value() > 1)
-                    output.Text() += ',';
-                output.Text() += CsvField(sheet.Utf8({column, row}));
-            }
-            output.Text() += "\r\n";
+        const int rows = sheet.ColumnCount() > 0 ? sheet.RowCount() : 0;
+        for (Row row{1}; row.Value() <= rows; ++row) {
+            AppendRow(output.Text(), sheet, row);
             output.FlushWhenFull();
         }
         output.Flush();

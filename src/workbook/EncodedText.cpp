@@ -8,7 +8,7 @@ namespace schedules {
 
 EncodedText Encoded(std::string_view utf8)
 {
-    if (std::ranges::all_of(utf8, [](char byte) { return byte >= 0; }))
+    if (std::ranges::all_of(utf8, [](unsigned char byte) { return byte < 0x80; }))
         return {.wide = false, .bytes = std::string(utf8)};
     const QString text = QString::fromUtf8(utf8.data(), std::ssize(utf8));
     if (std::ranges::all_of(text, [](QChar unit) { return unit.unicode() < 0x100; }))

@@ -25,69 +25,60 @@ bool Closed(GsfOutput* output)
     return gsf_output_is_closed(output) || gsf_output_close(output);
 }
 
+void CloseKeepingError(int handle)
+{
+    const int code = errno;
+    ::close(handle);
+    errno = code;
+}
+
 } // namespace
 
 OleContainer::OleContainer(QFileDevice& file) : m_fileName(file.fileName())
 {
     gsf_init();
     const int handle = ::dup(file.handle());
-    m_file = handle < 0 ? nullptr : ::fdopen(handle, "wb");
-    Require(m_file);
-    m_sink = gsf_output_stdio_new_FILE(m_fileName.toUtf8().constData(), m_file, true);
-    m_root = gsf_outfile_msole_new(m_sink);
-    gsf_outfile_msole_set_class_id(GSF_OUTFILE_MSOLE(m_root), kWorkbookClass.data());
-    m_stream = gsf_outfile_new_child(m_root, "Workbook", false);
-    Require(m_stream);
-}
-
-OleContainer::~OleContainer()
-{
-    Release();
-    if (m_file)
-        std::fclose(m_file);
+    Require(handle >= 0);
+    m_file.reset(::fdopen(handle, "wb"));
+    if (!m_file)
+        CloseKeepingError(handle);
+    Require(m_file != nullptr);
+    m_sink.reset(gsf_output_stdio_new_FILE(m_fileName.toUtf8().constData(), m_file.get(), true));
+    Require(m_sink != nullptr);
+    m_root.reset(GSF_OUTPUT(gsf_outfile_msole_new(m_sink.get())));
+    Require(m_root != nullptr);
+    gsf_outfile_msole_set_class_id(GSF_OUTFILE_MSOLE(m_root.get()), kWorkbookClass.data());
+    m_stream.reset(gsf_outfile_new_child(GSF_OUTFILE(m_root.get()), "Workbook", false));
+    Require(m_stream != nullptr);
 }
 
 void OleContainer::Write(std::string_view bytes)
 {
-    Require(gsf_output_write(m_stream, bytes.size(), BytesOf(bytes)));
+    Require(gsf_output_write(m_stream.get(), bytes.size(), BytesOf(bytes)));
 }
 
 void OleContainer::Overwrite(std::uint32_t position, std::string_view bytes)
 {
-    Require(gsf_output_seek(m_stream, position, G_SEEK_SET));
+    Require(gsf_output_seek(m_stream.get(), position, G_SEEK_SET));
     Write(bytes);
-    Require(gsf_output_seek(m_stream, 0, G_SEEK_END));
+    Require(gsf_output_seek(m_stream.get(), 0, G_SEEK_END));
 }
 
 void OleContainer::Close()
 {
-    Require(Closed(m_stream));
-    Require(Closed(GSF_OUTPUT(m_root)));
-    Require(Closed(m_sink));
-    Release();
-    CloseFile();
-}
-
-void OleContainer::CloseFile()
-{
-    const bool failed = std::ferror(m_file) != 0;
-    const bool closed = std::fclose(m_file) == 0;
-    m_file = nullptr;
+    for (Output* output : {&m_stream, &m_root, &m_sink}) {
+        Require(Closed(output->get()));
+        output->reset();
+    }
+    const bool failed = std::ferror(m_file.get()) != 0;
+    const bool closed = std::fclose(m_file.release()) == 0;
     Require(closed && !failed);
 }
 
-/// Whatever is not closed yet is closed first, since the library complains about objects that are dropped open.
-void OleContainer::Release()
+void OleContainer::Release::operator()(GsfOutput* output) const
 {
-    for (GsfOutput* output : {m_stream, reinterpret_cast<GsfOutput*>(m_root), m_sink}) {
-        if (!output)
-            continue;
-        Closed(output);
-        g_object_unref(output);
-    }
-    m_stream = nullptr;
-    m_root = nullptr;
-    m_sink = nullptr;
+    Closed(output);
+    g_object_unref(output);
 }
 
 void OleContainer::Require(bool success) const
@@ -95,8 +86,13 @@ void OleContainer::Require(bool success) const
     if (success)
         return;
     const int code = errno;
-    throw Error(kFileNotWrittenError,
-                QStringLiteral("%1: %2").arg(m_fileName, QString::fromLocal8Bit(std::strerror(code))), {}, code);
+    throw Error(kFileNotWrittenError, QStringLiteral("%1: %2").arg(m_fileName, ReasonOf(code)), {}, code);
+}
+
+QString ReasonOf(int code)
+{
+    return code == 0 ? QStringLiteral("The file takes no more, and the system does not say why.")
+                     : QString::fromLocal8Bit(std::strerror(code));
 }
 
 } // namespace schedules

@@ -41,14 +41,22 @@ Palette::Palette() : m_colors(kCustomary)
 Word Palette::NumberOf(std::uint32_t color)
 {
     std::size_t place = Nearest(color);
-    for (std::size_t free = kSize; m_colors[place] != color && free-- > 0;) {
-        if (m_taken[free])
-            continue;
+    const std::size_t free = LastFree();
+    if (m_colors[place] != color && free < kSize) {
         place = free;
         m_colors[place] = color;
     }
     m_taken.set(place);
     return static_cast<Word>(kFirst + place);
+}
+
+std::size_t Palette::LastFree() const
+{
+    for (std::size_t place = kSize; place-- > 0;) {
+        if (!m_taken[place])
+            return place;
+    }
+    return kSize;
 }
 
 std::size_t Palette::Nearest(std::uint32_t color) const

@@ -28,6 +28,7 @@ private:
     static constexpr Word kFirst = 8;
 
     std::size_t Nearest(std::uint32_t color) const;
+    std::size_t LastFree() const; ///< `kSize` when none is
 
     std::array<std::uint32_t, kSize> m_colors;
     std::bitset<kSize> m_taken;

@@ -1,7 +1,6 @@
 #include "workbook/PlainNumber.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 
 namespace schedules {
@@ -22,17 +21,10 @@ bool IsWholePart(std::string_view digits)
     return AllDigits(digits) && (digits.size() == 1 || digits.front() != '0');
 }
 
-bool MayPartGroups(std::string_view whole, char mark, std::string_view decimals)
-{
-    return mark == ',' && decimals.size() == 3 && whole.size() <= 3 && whole != "0";
-}
-
 double ValueOf(std::string_view text)
 {
-    std::array<char, kLongest> digits{};
-    std::ranges::replace_copy(text, digits.begin(), ',', '.');
     double value = 0;
-    std::from_chars(digits.data(), digits.data() + text.size(), value);
+    std::from_chars(text.data(), text.data() + text.size(), value);
     return value;
 }
 
@@ -44,13 +36,13 @@ std::optional<PlainNumber> PlainNumberIn(std::string_view utf8)
         return std::nullopt;
     const bool isNegative = utf8.starts_with('-');
     const std::string_view digits = utf8.substr(isNegative ? 1 : 0);
-    const std::size_t mark = digits.find_first_of(".,");
+    const std::size_t mark = digits.find('.');
     const bool isWhole = mark == digits.npos;
     const std::string_view whole = digits.substr(0, mark);
     const std::string_view decimals = isWhole ? std::string_view() : digits.substr(mark + 1);
     if (!IsWholePart(whole) || whole.size() + decimals.size() > kMostDigits)
         return std::nullopt;
-    if (!isWhole && (!AllDigits(decimals) || MayPartGroups(whole, digits[mark], decimals)))
+    if (!isWhole && !AllDigits(decimals))
         return std::nullopt;
     const double value = ValueOf(utf8);
     if (isNegative && value == 0)

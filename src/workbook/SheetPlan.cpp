@@ -20,7 +20,8 @@ qsizetype UnitsOf(std::string_view utf8)
 
 } // namespace
 
-SheetPlan::SheetPlan(const Sheet& sheet) : m_sheet(sheet), m_styles(QFontInfo(sheet.Font()).pointSizeF())
+SheetPlan::SheetPlan(const Sheet& sheet, Qt::LayoutDirection direction)
+    : m_sheet(sheet), m_styles(QFontInfo(sheet.Font()).pointSizeF(), direction)
 {
     RequireSize();
     m_lastLooks.resize(static_cast<std::size_t>(sheet.ColumnCount()) + 1);

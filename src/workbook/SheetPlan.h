@@ -18,10 +18,11 @@ public:
     static constexpr int kMostColumns = 256;
     static constexpr int kLongestText = 32'767;
 
-    explicit SheetPlan(const Sheet& sheet);
+    SheetPlan(const Sheet& sheet, Qt::LayoutDirection direction);
 
     const Sheet& Source() const { return m_sheet; }
     const SharedStrings& Strings() const { return m_strings; }
+    Qt::LayoutDirection Direction() const { return m_styles.Direction(); }
     const Styles& Formats() const { return m_styles; }
 
     Word FormatAt(std::size_t cell) const { return m_formats[cell]; }

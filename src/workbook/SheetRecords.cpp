@@ -16,12 +16,12 @@ constexpr DWord kLowestVersion = 6;
 constexpr Word kDefaultWidth = 8; ///< digits
 constexpr Word kDefaultHeight = 255;
 constexpr long kWidestColumn = 255 * 256;
-constexpr int kHighestRow = 8190;
 constexpr Word kOwnHeight = 0x0140;
 constexpr Word kOwnWidth = 0x0002;
 
 constexpr Word kShowsGridHeadersZerosAndOutline = 0x06B6; ///< default colors; the sheet that is selected and shown
 constexpr Word kFrozen = 0x0008;
+constexpr Word kRightToLeft = 0x0040;
 constexpr Word kFrozenWithoutSplit = 0x0100;
 constexpr Word kAutomaticGridColor = 64;
 
@@ -134,9 +134,8 @@ void SheetRecords::WriteBlocks()
 
 void SheetRecords::WriteRow(Row row)
 {
-    const int height = std::clamp(m_sheet.RowHeight(row), 2, kHighestRow);
-    m_records.Write(RecordType::RowRecord, InWord(row.Value() - 1), Word{0}, InWord(m_columns), InWord(height), Word{0},
-                    Word{0}, kOwnHeight, kDefaultCellFormat);
+    m_records.Write(RecordType::RowRecord, InWord(row.Value() - 1), Word{0}, InWord(m_columns),
+                    InWord(RowHeightOf(m_sheet, row)), Word{0}, Word{0}, kOwnHeight, kDefaultCellFormat);
 }
 
 void SheetRecords::WriteCells(Row row)
@@ -180,8 +179,9 @@ void SheetRecords::WriteWindow()
 {
     const bool isFrozen = m_sheet.FrozenColumns() > 0 || m_sheet.FrozenRows() > 0;
     const Word frozen = isFrozen ? kFrozen | kFrozenWithoutSplit : 0;
-    m_records.Write(RecordType::Window2, static_cast<Word>(kShowsGridHeadersZerosAndOutline | frozen), Word{0}, Word{0},
-                    kAutomaticGridColor, Word{0}, Word{0}, Word{0}, DWord{0});
+    const Word leftwards = m_plan.Direction() == Qt::RightToLeft ? kRightToLeft : 0;
+    m_records.Write(RecordType::Window2, static_cast<Word>(kShowsGridHeadersZerosAndOutline | frozen | leftwards),
+                    Word{0}, Word{0}, kAutomaticGridColor, Word{0}, Word{0}, Word{0}, DWord{0});
     if (isFrozen)
         WritePane();
     else

@@ -59,12 +59,13 @@ Word NumberFormatOf(int decimals)
     }
 }
 
-Byte Alignment(const WorkbookLook& look)
+Byte Alignment(const WorkbookLook& look, Qt::LayoutDirection direction)
 {
     constexpr std::array<Byte, 3> kHorizontal{1, 2, 3}; // left, center, right
     constexpr std::array<Byte, 3> kVertical{0x00, kBottom, 0x10};
     const Byte wrap = look.wraps ? 0x08 : 0;
-    return kHorizontal[static_cast<std::size_t>(look.edge)] | wrap | kVertical[static_cast<std::size_t>(look.vAlign)];
+    const auto side = static_cast<std::size_t>(SideOf(look.edge, direction));
+    return kHorizontal[side] | wrap | kVertical[static_cast<std::size_t>(look.vAlign)];
 }
 
 } // namespace
@@ -151,8 +152,8 @@ void Styles::WriteCellFormat(RecordWriter& records, const WorkbookLook& look, Wo
 {
     const bool isFilled = look.fill != WorkbookLook::kNoFill;
     const Word colors = isFilled ? static_cast<Word>(fill | kSystemBackground) : kNoFillColors;
-    records.Write(RecordType::XF, FontOf(look), NumberFormatOf(look.decimals), kLocked, Alignment(look), Byte{0},
-                  Byte{0}, kUsesAll, DWord{0}, isFilled ? kSolid : DWord{0}, colors);
+    records.Write(RecordType::XF, FontOf(look), NumberFormatOf(look.decimals), kLocked, Alignment(look, m_direction),
+                  Byte{0}, Byte{0}, kUsesAll, DWord{0}, isFilled ? kSolid : DWord{0}, colors);
 }
 
 } // namespace schedules

@@ -12,8 +12,10 @@ namespace schedules {
 class Styles
 {
 public:
-    /// The size of the workbook's texts.
-    explicit Styles(double points) : m_points(points) {}
+    /// The size of the workbook's texts, and where its first column stands.
+    Styles(double points, Qt::LayoutDirection direction) : m_points(points), m_direction(direction) {}
+
+    Qt::LayoutDirection Direction() const { return m_direction; }
 
     /// The number of the cell format for a look. Throws `Error` when a workbook cannot hold so many.
     Word FormatOf(const WorkbookLook& look);
@@ -37,6 +39,7 @@ private:
     };
 
     double m_points;
+    Qt::LayoutDirection m_direction;
     Palette m_palette;
     std::map<WorkbookLook, CellFormat> m_formats;
 };

@@ -22,9 +22,9 @@ void WritePlanned(const SheetPlan& plan, const QString& sheetName, WorkbookStrea
 
 } // namespace
 
-void WriteWorkbook(const Sheet& sheet, const QString& sheetName, const QString& fileName)
+void WriteWorkbook(const Sheet& sheet, const QString& sheetName, const QString& fileName, Qt::LayoutDirection direction)
 {
-    const SheetPlan plan(sheet);
+    const SheetPlan plan(sheet, direction);
     ReplaceFile(fileName, [&](QFileDevice& file) {
         OleContainer container(file);
         WritePlanned(plan, sheetName, container);
@@ -32,9 +32,9 @@ void WriteWorkbook(const Sheet& sheet, const QString& sheetName, const QString& 
     });
 }
 
-void WriteRecords(const Sheet& sheet, const QString& sheetName, WorkbookStream& stream)
+void WriteRecords(const Sheet& sheet, const QString& sheetName, WorkbookStream& stream, Qt::LayoutDirection direction)
 {
-    WritePlanned(SheetPlan(sheet), sheetName, stream);
+    WritePlanned(SheetPlan(sheet, direction), sheetName, stream);
 }
 
 } // namespace schedules

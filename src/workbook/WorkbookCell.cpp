@@ -1,5 +1,7 @@
 #include "workbook/WorkbookCell.h"
 
+#include <algorithm>
+
 namespace schedules {
 
 WorkbookCell WorkbookCellOf(const Sheet& sheet, Cell cell)
@@ -31,6 +33,21 @@ WorkbookLook WorkbookLookOf(const Sheet& sheet, Cell cell, const WorkbookCell& c
     if (content.kind == WorkbookCell::Kind::Number)
         look.decimals = static_cast<std::int8_t>(content.number.decimals);
     return look;
+}
+
+CellSide SideOf(CellEdge edge, Qt::LayoutDirection direction)
+{
+    if (edge == CellEdge::Center)
+        return CellSide::Center;
+    const bool isLeft = (edge == CellEdge::Near) == (direction == Qt::LeftToRight);
+    return isLeft ? CellSide::Left : CellSide::Right;
+}
+
+int RowHeightOf(const Sheet& sheet, Row row)
+{
+    constexpr int kLowest = 2;
+    constexpr int kHighest = 8190;
+    return std::clamp(sheet.RowHeight(row), kLowest, kHighest);
 }
 
 std::string NumberFormat(int decimals)

@@ -47,6 +47,18 @@ struct WorkbookLook
 
 WorkbookLook WorkbookLookOf(const Sheet& sheet, Cell cell, const WorkbookCell& content);
 
+enum class CellSide : std::uint8_t
+{
+    Left,
+    Center,
+    Right
+};
+
+CellSide SideOf(CellEdge edge, Qt::LayoutDirection direction);
+
+/// What workbooks can have of a row's height, in twips.
+int RowHeightOf(const Sheet& sheet, Row row);
+
 /// "0", "0.00": the number format that shows so many decimals.
 std::string NumberFormat(int decimals);
 

@@ -9,6 +9,7 @@
 #include <QFontInfo>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <array>
 #include <map>
 #include <memory>
@@ -27,16 +28,39 @@ void Require(lxw_error error)
         throw Error(kFileNotWrittenError, QString::fromUtf8(lxw_strerror(error)));
 }
 
-lxw_color_t WithoutSwap(std::uint32_t color)
+bool IsHexDigit(char byte)
 {
-    return (color & 0xFF) << 16 | (color & 0xFF00) | (color >> 16 & 0xFF);
+    return (byte >= '0' && byte <= '9') || (byte >= 'A' && byte <= 'F') || (byte >= 'a' && byte <= 'f');
+}
+
+/// Whether a text begins like "_x0041_", by which the format means the character of that number.
+bool BeginsLikeCode(std::string_view text)
+{
+    constexpr std::size_t kSize = 7;
+    return text.size() >= kSize && text.starts_with("_x") && text[kSize - 1] == '_' &&
+           std::ranges::all_of(text.substr(2, 4), IsHexDigit);
+}
+
+/// A text with the "_" of what only looks like a code given as a code.
+std::string XlsxText(std::string_view text)
+{
+    std::string escaped;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (BeginsLikeCode(text.substr(at)))
+            escaped += "_x005F";
+        escaped += text[at];
+    }
+    return escaped;
 }
 
 /// The formats of the looks that have turned up.
 class XlsxFormats
 {
 public:
-    XlsxFormats(lxw_workbook* book, double points) : m_book(book), m_points(points) {}
+    XlsxFormats(lxw_workbook* book, double points, Qt::LayoutDirection direction)
+        : m_book(book), m_points(points), m_direction(direction)
+    {
+    }
 
     lxw_format* Of(const WorkbookLook& look)
     {
@@ -55,14 +79,14 @@ private:
         lxw_format* format = workbook_add_format(m_book);
         format_set_font_name(format, kFontName);
         format_set_font_size(format, m_points);
-        format_set_align(format, kHorizontal[static_cast<std::size_t>(look.edge)]);
+        format_set_align(format, kHorizontal[static_cast<std::size_t>(SideOf(look.edge, m_direction))]);
         format_set_align(format, kVertical[static_cast<std::size_t>(look.vAlign)]);
         if (look.bold)
             format_set_bold(format);
         if (look.wraps)
             format_set_text_wrap(format);
         if (look.fill != WorkbookLook::kNoFill)
-            format_set_bg_color(format, WithoutSwap(look.fill));
+            format_set_bg_color(format, RedAndBlueSwapped(look.fill));
         if (look.WhiteText())
             format_set_font_color(format, LXW_COLOR_WHITE);
         if (look.decimals != WorkbookLook::kGeneral)
@@ -72,19 +96,22 @@ private:
 
     lxw_workbook* m_book;
     double m_points;
+    Qt::LayoutDirection m_direction;
     std::map<WorkbookLook, lxw_format*> m_formats;
 };
 
 class XlsxSheet
 {
 public:
-    XlsxSheet(lxw_workbook* book, const Sheet& sheet, const QString& name)
+    XlsxSheet(lxw_workbook* book, const Sheet& sheet, const QString& name, Qt::LayoutDirection direction)
         : m_sheet(sheet),
-          m_formats(book, QFontInfo(sheet.Font()).pointSizeF()),
+          m_formats(book, QFontInfo(sheet.Font()).pointSizeF(), direction),
           m_page(workbook_add_worksheet(book, name.toUtf8().constData()))
     {
         if (!m_page)
             throw Error(kFileNotWrittenError, QStringLiteral("The workbook cannot have a sheet \"%1\".").arg(name));
+        if (direction == Qt::RightToLeft)
+            worksheet_right_to_left(m_page);
     }
 
     void Write()
@@ -109,7 +136,7 @@ private:
     void WriteRow(Row row)
     {
         const auto number = static_cast<lxw_row_t>(row.Value() - 1);
-        Require(worksheet_set_row(m_page, number, m_sheet.RowHeight(row) / kTwipsPerPoint, nullptr));
+        Require(worksheet_set_row(m_page, number, RowHeightOf(m_sheet, row) / kTwipsPerPoint, nullptr));
         for (Column column{1}; column.Value() <= m_sheet.ColumnCount(); ++column)
             WriteCell(number, static_cast<lxw_col_t>(column.Value() - 1), {column, row});
     }
@@ -124,7 +151,7 @@ private:
         case WorkbookCell::Kind::Number:
             return Require(worksheet_write_number(m_page, row, column, content.number.value, format));
         case WorkbookCell::Kind::Text:
-            return Require(worksheet_write_string(m_page, row, column, std::string(content.text).c_str(), format));
+            return Require(worksheet_write_string(m_page, row, column, XlsxText(content.text).c_str(), format));
         }
     }
 
@@ -138,7 +165,8 @@ struct Discard
     void operator()(lxw_workbook* book) const { lxw_workbook_free(book); }
 };
 
-void WriteBook(const Sheet& sheet, const QString& sheetName, const QString& folder, const QString& fileName)
+void WriteBook(const Sheet& sheet, const QString& sheetName, Qt::LayoutDirection direction, const QString& folder,
+               const QString& fileName)
 {
     QByteArray folderName = QFile::encodeName(folder);
     lxw_workbook_options options{};
@@ -147,7 +175,7 @@ void WriteBook(const Sheet& sheet, const QString& sheetName, const QString& fold
     std::unique_ptr<lxw_workbook, Discard> book(workbook_new_opt(QFile::encodeName(fileName).constData(), &options));
     if (!book)
         throw Error(kFileNotWrittenError, QStringLiteral("The workbook cannot be begun."));
-    XlsxSheet(book.get(), sheet, LegalSheetName(sheetName)).Write();
+    XlsxSheet(book.get(), sheet, LegalSheetName(sheetName), direction).Write();
     Require(workbook_close(book.release()));
 }
 
@@ -162,14 +190,14 @@ void Copy(const QString& fileName, QFileDevice& target)
 
 } // namespace
 
-void WriteXlsx(const Sheet& sheet, const QString& sheetName, const QString& fileName)
+void WriteXlsx(const Sheet& sheet, const QString& sheetName, const QString& fileName, Qt::LayoutDirection direction)
 {
     // The library writes to files of its own.
     const QTemporaryDir folder;
     if (!folder.isValid())
         throw Error(kFileNotWrittenError, folder.errorString());
     const QString whole = folder.filePath(QStringLiteral("whole.xlsx"));
-    WriteBook(sheet, sheetName, folder.path(), whole);
+    WriteBook(sheet, sheetName, direction, folder.path(), whole);
     if (!IsWholeXlsx(whole))
         throw Error(kFileNotWrittenError, QStringLiteral("%1: The workbook is not whole.").arg(folder.path()));
     ReplaceFile(fileName, [&](QFileDevice& file) { Copy(whole, file); });

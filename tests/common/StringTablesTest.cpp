@@ -283,6 +283,13 @@ TEST_P(ComponentTable, HasEveryTextThatCodeAsksFor)
     }
 }
 
+TEST_P(ComponentTable, TellsItsLanguage)
+{
+    EXPECT_EQ(ResourceLanguage(), QString());
+    const ModuleInUse module(LanguageFile(GetParam()));
+    EXPECT_EQ(ResourceLanguage(), GetParam());
+}
+
 TEST_P(ComponentTable, IsFinishedAndBuiltIn)
 {
     const ModuleInUse module(LanguageFile(GetParam()));

@@ -177,6 +177,18 @@ TEST_F(ExportTest, AWebPageThatIsWrittenIsTold)
     EXPECT_TRUE(page.contains(">a1<") && !page.contains(">b1<") && !page.contains(">a2<"));
 }
 
+TEST_F(ExportTest, FilesRunTheWayTheViewDoes)
+{
+    view.setLayoutDirection(Qt::RightToLeft);
+    ShowTable();
+    ASSERT_EQ(view.WriteFile(QStringLiteral("html"), Path("page.htm")), QString());
+    EXPECT_TRUE(Content(Path("page.htm")).contains("dir=\"rtl\""));
+    ASSERT_EQ(view.WriteFile(QStringLiteral("xls"), Path("right.xls")), QString());
+    view.setLayoutDirection(Qt::LeftToRight);
+    ASSERT_EQ(view.WriteFile(QStringLiteral("xls"), Path("left.xls")), QString());
+    EXPECT_NE(Content(Path("left.xls")), Content(Path("right.xls")));
+}
+
 TEST_F(ExportTest, AWebPageThatFailsNamesItsLog)
 {
     ShowTable();

@@ -12,8 +12,6 @@ using ::testing::HasSubstr;
 
 namespace {
 
-const QString kBrowser = QStringLiteral("/usr/bin/chromium");
-
 struct BrowserTest : ::testing::Test, WrittenPage
 {
     void SetUp() override
@@ -27,12 +25,17 @@ struct BrowserTest : ::testing::Test, WrittenPage
         WriteWebPage(sheet, info, FileName());
     }
 
-    std::string Browsed(const QStringList& options) const
+    /// Writes the page anew and tells what a script that runs in it answers.
+    std::string Answer(const char* script) const
     {
-        const QStringList common{"--headless",     "--no-sandbox",
-                                 "--disable-gpu",  "--hide-scrollbars",
-                                 "--no-first-run", "--user-data-dir=" + folder.filePath("profile")};
-        return Asked(kBrowser, common + options + QStringList{"file://" + FileName()}).output;
+        WriteWebPage(sheet, info, FileName());
+        QFile file(FileName());
+        EXPECT_TRUE(file.open(QFile::Append));
+        file.write(QByteArray("<script>document.title='['+(()=>{") + script + "})()+']'</script>");
+        file.close();
+        const std::string tree = Browsed({"--window-size=800,400", "--dump-dom"});
+        const std::size_t start = tree.find("<title>[") + 8;
+        return tree.substr(start, tree.find("]</title>") - start);
     }
 
     QImage Picture(const QString& size, const QStringList& options = {}) const
@@ -71,4 +74,57 @@ TEST_F(BrowserTest, IsDarkWhereTheReadersSystemIsDark)
     const QImage picture = Picture(QStringLiteral("800,400"), {"--blink-settings=preferredColorScheme=0"});
     ASSERT_FALSE(picture.isNull());
     EXPECT_LT(picture.pixelColor(790, 390).lightness(), 60);
+}
+
+namespace {
+
+/// For each row after the header the side of its cell in column 1 at which the text stands.
+constexpr auto kSides = R"js(
+return [...document.querySelectorAll('tbody td:nth-child(2)')].map(cell => {
+    const range = document.createRange();
+    range.selectNodeContents(cell);
+    const text = range.getBoundingClientRect(), box = cell.getBoundingClientRect();
+    return text.left - box.left < box.right - text.right ? 'left' : 'right';
+}).join(' '))js";
+
+} // namespace
+
+TEST_F(BrowserTest, AllTextsOfAColumnStandAtTheSameSide)
+{
+    Fill({{"Tag", "A header that is wider"}, {"P-1", "pump"}, {"P-2", "משאבה"}, {"P-3", "12"}});
+    for (int row : {1, 2, 3})
+        sheet.SetStyle(At(1, row), {});
+    EXPECT_EQ(Answer(kSides), "left left left");
+    info.direction = Qt::RightToLeft;
+    EXPECT_EQ(Answer(kSides), "right right right");
+}
+
+TEST_F(BrowserTest, NumbersStandAtTheFarSide)
+{
+    Fill({{"Tag", "A header that is wider"}, {"P-1", "12"}, {"P-2", "-8.5"}});
+    for (int row : {1, 2})
+        sheet.SetStyle(At(1, row), {});
+    sheet.SetHAlign({{Column(1), kAllRows}, {Column(1), kAllRows}}, HorizontalAlignment::Data);
+    EXPECT_EQ(Answer(kSides), "right right");
+    info.direction = Qt::RightToLeft;
+    EXPECT_EQ(Answer(kSides), "left left");
+}
+
+TEST_F(BrowserTest, TheFirstColumnAndTheCornerStayWhereverTheTableIsScrolled)
+{
+    for (int row = 0; row <= 60; ++row) {
+        for (int column = 0; column <= 40; ++column)
+            sheet.SetText(At(column, row), QStringLiteral("%1/%2").arg(column).arg(row));
+    }
+    sheet.SetText(At(0, 0), {});
+    sheet.SetText(At(0, 50), {});
+    sheet.SetSize(40, 60);
+    constexpr auto kAtTheEdge = R"js(
+const page = document.querySelector('.page');
+page.scrollTo(900, 700);
+const at = (x, y) => { const cell = document.elementFromPoint(x, y); return cell.cellIndex + '/' + cell.parentNode.rowIndex; };
+const empty = document.querySelector('table').rows[50].cells[0].getBoundingClientRect();
+return page.scrollLeft + ' ' + page.scrollTop + ' ' + at(3, 3) + ' ' + empty.left + ' ' +
+       at(3, 200).startsWith('0/') + ' ' + at(400, 3).endsWith('/0'))js";
+    EXPECT_EQ(Answer(kAtTheEdge), "900 700 0/0 0 true true");
 }

@@ -21,8 +21,18 @@ CellRange WholeRow(int row)
     return {{kAllColumns, Row(row)}, {kAllColumns, Row(row)}};
 }
 
+const QString kValidator = QStringLiteral("/usr/bin/tidy");
+
 struct WebPageTest : ::testing::Test, WrittenPage
 {
+    /// What a validator has to say; nothing where there is none.
+    std::string Complaints() const
+    {
+        if (!QFile::exists(kValidator))
+            return {};
+        WriteWebPage(sheet, info, FileName());
+        return Asked(kValidator, {"-q", "-e", "-utf8", "--show-info", "no", FileName()}).errors;
+    }
 };
 
 } // namespace
@@ -115,10 +125,11 @@ TEST_F(WebPageTest, CheckBoxesAreReadAsWords)
 TEST_F(WebPageTest, TellsItsLanguageAndDirection)
 {
     Fill({{"Tag"}});
-    EXPECT_THAT(Written(), HasSubstr("<html>"));
+    EXPECT_THAT(Written(), HasSubstr("<html dir=\"ltr\">"));
     info.language = QStringLiteral("de");
     EXPECT_THAT(Written(), HasSubstr("<html lang=\"de\" dir=\"ltr\">"));
     info.language = QStringLiteral("ar");
+    info.direction = Qt::RightToLeft;
     EXPECT_THAT(Written(), HasSubstr("<html lang=\"ar\" dir=\"rtl\">"));
 }
 
@@ -149,8 +160,7 @@ TEST_F(WebPageTest, FollowsTheReadersSystemThePhoneAndThePaper)
 
 TEST_F(WebPageTest, AValidatorHasNothingToSay)
 {
-    const QString tidy = QStringLiteral("/usr/bin/tidy");
-    if (!QFile::exists(tidy))
+    if (!QFile::exists(kValidator))
         GTEST_SKIP() << "no validator here";
     Fill({{"", "Flow (m³/h)", "насос", "In service"},
           {"<P-1>", "1 & 2", "two\nlines", "1"},
@@ -161,10 +171,40 @@ TEST_F(WebPageTest, AValidatorHasNothingToSay)
     info.language = QStringLiteral("en");
     for (const bool headers : {true, false}) {
         sheet.SetHidden(Row(0), !headers);
-        WriteWebPage(sheet, info, FileName());
-        const Told told = Asked(tidy, {"-q", "-e", "-utf8", "--show-info", "no", FileName()});
-        EXPECT_EQ(told.errors, "");
+        EXPECT_EQ(Complaints(), "");
     }
+}
+
+TEST_F(WebPageTest, TheFirstColumnStaysInSightWhereItHeadsRows)
+{
+    Fill({{"", "Flow"}, {"", "12"}});
+    EXPECT_THAT(Written(), HasSubstr("<table class=\"g1 r\">"));
+    EXPECT_THAT(Written(), HasSubstr(".r tr>:first-child{position:sticky;inset-inline-start:0"));
+    sheet.SetHidden(Column(0), true);
+    EXPECT_THAT(Written(), HasSubstr("<table class=\"g1\">"));
+}
+
+TEST_F(WebPageTest, ASheetThatShowsNothingIsAPageWithAnEmptyTable)
+{
+    sheet.SetHidden(Column(0), true);
+    sheet.SetHidden(Row(0), true);
+    EXPECT_EQ(Table(), "");
+    EXPECT_EQ(Complaints(), "");
+    sheet.SetSize(0, 3);
+    EXPECT_EQ(Table(), "") << "rows without columns";
+    EXPECT_EQ(Complaints(), "");
+}
+
+TEST_F(WebPageTest, AWideTableHasTablesForPaperThatOnlyPaperShows)
+{
+    sheet.SetSize(60, 1);
+    for (Column column{0}; column.Value() <= 60; ++column)
+        sheet.SetText({column, Row(0)}, QStringLiteral("C%1").arg(column.Value()));
+    const std::string page = Written();
+    EXPECT_THAT(page, HasSubstr(".paper{display:none}"));
+    EXPECT_THAT(page, HasSubstr("<div class=\"paper\">\n<table class=\"g1 r\">\n<caption>Pumps (1/"));
+    EXPECT_THAT(page, HasSubstr(".page{display:none}\n.paper{display:block}"));
+    EXPECT_EQ(Complaints(), "");
 }
 
 TEST_F(WebPageTest, AFolderThatIsGoneIsAnError)

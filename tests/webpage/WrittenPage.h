@@ -27,6 +27,8 @@ inline Told Asked(const QString& program, const QStringList& arguments)
             QString::fromUtf8(process.readAllStandardError()).trimmed().toStdString()};
 }
 
+inline const QString kBrowser = QStringLiteral("/usr/bin/chromium");
+
 /// A sheet that is written as a web page into a folder of its own.
 struct WrittenPage
 {
@@ -40,6 +42,15 @@ struct WrittenPage
         WriteWebPage(sheet, info, FileName());
         QFile file(FileName());
         return file.open(QFile::ReadOnly) ? file.readAll().toStdString() : std::string();
+    }
+
+    /// What a browser prints that opens the page as it was written last.
+    std::string Browsed(const QStringList& options) const
+    {
+        const QStringList common{"--headless",     "--no-sandbox",
+                                 "--disable-gpu",  "--hide-scrollbars",
+                                 "--no-first-run", "--user-data-dir=" + folder.filePath("profile")};
+        return Asked(kBrowser, common + options + QStringList{"file://" + FileName()}).output;
     }
 
     /// Its table as a parser sees it.

@@ -54,6 +54,44 @@ TEST(CsvWriter, WritesRowsOfFields)
     EXPECT_EQ(file.readAll(), "Tag,Flow (m³/h)\r\nP-1,\r\n'=P,\"1,5\"\r\n");
 }
 
+namespace {
+
+/// The rows that a reader of another making finds in the file.
+std::string ReadCsv(const WrittenSheet& written)
+{
+    WriteCsv(written.sheet, written.FileName());
+    return Printed("workbook/read_csv.py", {written.FileName()}).toStdString();
+}
+
+} // namespace
+
+TEST(CsvWriter, AnotherReaderFindsTheSameRows)
+{
+    WrittenSheet written;
+    Fill(written.sheet, {{"Tag", "Note"}, {"P-1", "3\" pipe, steel"}, {"", ""}, {"насос", "two\nlines"}});
+    EXPECT_EQ(ReadCsv(written), "['Tag', 'Note']\n"
+                                "['P-1', '3\" pipe, steel']\n"
+                                "['', '']\n"
+                                "['насос', 'two\\nlines']");
+}
+
+TEST(CsvWriter, AnEmptyTextInItsOnlyColumnIsARowAllTheSame)
+{
+    WrittenSheet written;
+    Fill(written.sheet, {{"Tag"}, {""}, {"P-2"}, {""}});
+    EXPECT_EQ(ReadCsv(written), "['Tag']\n['']\n['P-2']\n['']");
+}
+
+TEST(CsvWriter, ASheetWithoutCellsIsAnEmptyFile)
+{
+    WrittenSheet written;
+    EXPECT_EQ(ReadCsv(written), "");
+    written.sheet.SetSize(0, 3);
+    EXPECT_EQ(ReadCsv(written), "") << "rows without columns";
+    written.sheet.SetSize(3, 0);
+    EXPECT_EQ(ReadCsv(written), "") << "columns without rows";
+}
+
 TEST(CsvWriter, AFolderThatIsGoneIsAnError)
 {
     WrittenSheet written;

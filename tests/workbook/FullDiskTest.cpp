@@ -1,6 +1,7 @@
 // What happens to workbooks when the disk takes no more, at any point of the way.
 
 #include "common/Error.h"
+#include "support/FileSizeLimit.h"
 #include "workbook/CsvWriter.h"
 #include "workbook/ReadBack.h"
 #include "workbook/Workbook.h"
@@ -10,37 +11,13 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <csignal>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 using namespace schedules;
 using namespace schedules::testing;
 
 namespace {
-
-/// Files may not grow beyond a size as long as it lives.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes) : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    Q_DISABLE_COPY_MOVE(FileSizeLimit)
-
-private:
-    void (*m_handler)(int);
-    rlimit m_before{};
-};
 
 struct FullDiskTest : ::testing::TestWithParam<int>, WrittenSheet
 {

@@ -2,6 +2,7 @@
 
 #include "workbook/ReadBack.h"
 #include "workbook/SheetPlan.h"
+#include "workbook/Workbook.h"
 
 #include <algorithm>
 #include <gmock/gmock.h>
@@ -242,6 +243,27 @@ TEST_F(RecordsTest, TheWindowShowsTheOneSheet)
     EXPECT_EQ(window.data.size(), 18u);
     EXPECT_EQ(window.At<Word>(0) & 0x0600, 0x0600) << "selected and shown";
     EXPECT_EQ(Records(Type::Window1).at(0).data.size(), 18u);
+}
+
+TEST_F(RecordsTest, RightToLeftTheWindowIsMirroredAndSidesAreExchanged)
+{
+    FillRows(1, 3);
+    sheet.SetText(At(2, 1), QStringLiteral("12"));
+    sheet.SetHAlign({{Column(2), kAllRows}, {Column(2), kAllRows}}, HorizontalAlignment::Data);
+    sheet.SetHAlign({{Column(3), kAllRows}, {Column(3), kAllRows}}, HorizontalAlignment::Center);
+    const auto told = [this](Qt::LayoutDirection direction) {
+        MemoryStream stream;
+        WriteRecords(sheet, QStringLiteral("Schedule"), stream, direction);
+        const auto records = stream.Records();
+        std::vector<int> sides{OfType(records, Type::Window2).at(0).At<Word>(0) & 0x0040};
+        const auto formats = OfType(records, Type::XF);
+        for (const ReadRecord& cell : OfType(records, Type::LabelSst))
+            sides.push_back(formats.at(cell.At<Word>(4)).At<Byte>(6) & 0x07);
+        return sides;
+    };
+    constexpr int kLeft = 1, kCenter = 2, kRight = 3;
+    EXPECT_THAT(told(Qt::LeftToRight), ::testing::ElementsAre(0, kLeft, kRight, kCenter));
+    EXPECT_THAT(told(Qt::RightToLeft), ::testing::ElementsAre(0x0040, kRight, kLeft, kCenter));
 }
 
 TEST_F(RecordsTest, FrozenPanesHaveBothFlagsAndASelectionEach)

@@ -81,8 +81,13 @@ TEST_F(WorkbookTest, NumbersOfNumericTypesAreNumbersThatShowTheSameDecimals)
     Put(sheet, At(3, 1), "0.125", DataType::Single);
     Put(sheet, At(4, 1), "3", DataType::Integer);
     Put(sheet, At(5, 1), "9.9", DataType::Currency);
-    Put(sheet, At(6, 1), "12,5", DataType::Number);
-    EXPECT_EQ(Read("cells"), "12.5 (0.00) | -7.0 (0) | 0.125 (0.000) | 3.0 (0) | 9.9 (0.0) | 12.5 (0.0)");
+    EXPECT_EQ(Read("cells"), "12.5 (0.00) | -7.0 (0) | 0.125 (0.000) | 3.0 (0) | 9.9 (0.0)");
+}
+
+TEST_F(WorkbookTest, ANumberWithADecimalCommaIsTextAsShown)
+{
+    Put(sheet, At(1, 1), "12,5", DataType::Number);
+    EXPECT_EQ(Read("cells"), "'12,5'");
 }
 
 TEST_F(WorkbookTest, EverythingElseIsTextAsItStands)
@@ -117,6 +122,9 @@ TEST_F(WorkbookTest, ASheetWithoutCellsIsAWorkbook)
 {
     EXPECT_EQ(Read("cells"), "");
     EXPECT_EQ(Read("book"), "sheets ['Schedule'], code page 1200, fonts [0, 1, 2, 3], style formats 15");
+    EXPECT_EQ(ReadByFreexl(FileName()), "");
+    sheet.SetSize(0, 3);
+    EXPECT_THAT(Read("book"), ::testing::StartsWith("sheets ['Schedule'],")) << "rows without columns";
 }
 
 TEST_F(WorkbookTest, BoldColorsAndAlignmentsGoAlong)

@@ -19,7 +19,7 @@ def shown(cell):
 
 sys.stdout.reconfigure(encoding="utf-8")
 sheet = openpyxl.load_workbook(sys.argv[1]).worksheets[0]
-print(sheet.title, sheet.freeze_panes)
+print(sheet.title, sheet.freeze_panes, "right to left" if sheet.sheet_view.rightToLeft else "left to right")
 print(sheet.column_dimensions["A"].width, sheet.row_dimensions[1].height)
 for row in sheet.iter_rows():
     print(" | ".join(shown(cell) for cell in row))

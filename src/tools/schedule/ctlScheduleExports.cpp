@@ -72,7 +72,7 @@ void ctlSchedule::ExportToExcel(const Sheet& source, Sheet& target)
     const auto emptied = qScopeGuard([&] { target.Reset(); });
     const QString failure = FailureOf([&] {
         CopyVisible(source, target);
-        WriteWorkbook(target, LoadResString(kDefaultTitle), fileName);
+        WriteWorkbook(target, LoadResString(kDefaultTitle), fileName, layoutDirection());
     });
     if (!failure.isEmpty())
         Trace(Qualified(__func__) + QStringLiteral(": ") + failure);
@@ -98,7 +98,9 @@ void ctlSchedule::ExportToHTML()
 
 void ctlSchedule::WriteHtml(const QString& fileName) const
 {
-    const PageInfo page{m_engine.Title(), locale().bcp47Name(), ComponentText("checked"), ComponentText("unchecked")};
+    const QString language = ResourceLanguage();
+    const PageInfo page{m_engine.Title(), language.isEmpty() ? locale().bcp47Name() : language,
+                        ComponentText("checked"), ComponentText("unchecked"), layoutDirection()};
     WriteWebPage(*m_engine.Sched(), page, fileName);
 }
 
@@ -128,9 +130,9 @@ QString ctlSchedule::WriteFile(const QString& format, const QString& fileName)
     return FailureOf([&] {
         CopyVisible(*m_engine.Sched(), *m_exported);
         if (format == QLatin1String("xls"))
-            WriteWorkbook(*m_exported, LoadResString(kDefaultTitle), fileName);
+            WriteWorkbook(*m_exported, LoadResString(kDefaultTitle), fileName, layoutDirection());
         else if (format == QLatin1String("xlsx"))
-            WriteXlsx(*m_exported, LoadResString(kDefaultTitle), fileName);
+            WriteXlsx(*m_exported, LoadResString(kDefaultTitle), fileName, layoutDirection());
         else if (format == QLatin1String("csv"))
             WriteCsv(*m_exported, fileName);
         else if (format == QLatin1String("html"))
