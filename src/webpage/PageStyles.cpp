@@ -39,7 +39,7 @@ thead th,thead td{position:sticky;top:0;z-index:2;background:var(--face);font-we
 @media (max-width:40em){body{font-size:.8125rem}table{margin:0 .5rem .5rem}.r tbody tr>:first-child{max-width:9em}}
 .paper{display:none}
 @page{size:landscape;margin:10mm}
-@media print{:root{--ink:#000;--line:#999;--face:#eee}.page{overflow:visible;max-height:none}table{table-layout:fixed;margin:0 0 5mm}caption{break-after:avoid}th,td{padding:.15em .35em;max-width:none!important;position:static!important;white-space:pre-wrap!important;overflow-wrap:anywhere;-webkit-print-color-adjust:exact;print-color-adjust:exact}thead{display:table-header-group}tr{break-inside:avoid}}
+@media print{:root{--ink:#000;--line:#999;--face:#eee}.page{overflow:visible;max-height:none}table{table-layout:fixed;margin:0 0 5mm;break-inside:avoid}caption{break-after:avoid}th,td{padding:.15em .35em;max-width:none!important;position:static!important;white-space:pre-wrap!important;overflow-wrap:anywhere;-webkit-print-color-adjust:exact;print-color-adjust:exact}thead{display:table-header-group}tr{break-inside:avoid}}
 )css";
 
 std::string Hex(std::uint32_t color)

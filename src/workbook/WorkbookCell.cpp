@@ -28,7 +28,9 @@ WorkbookLook WorkbookLookOf(const Sheet& sheet, Cell cell, const WorkbookCell& c
         look.fill = FixedColor(*color);
     look.bold = sheet.Bold(cell);
     look.edge = EdgeOf(sheet.HAlign(cell), sheet.Style(cell), content.text);
-    look.vAlign = sheet.VAlign(cell);
+    // As on screen: in a row of one line, different alignments would only show as ragged baselines.
+    const bool isOneLine = sheet.RowHeight(cell.row) <= sheet.Rows().DefaultSize();
+    look.vAlign = isOneLine ? VerticalAlignment::Center : sheet.VAlign(cell);
     look.wraps = sheet.Wraps(cell);
     if (content.kind == WorkbookCell::Kind::Number)
         look.decimals = static_cast<std::int8_t>(content.number.decimals);

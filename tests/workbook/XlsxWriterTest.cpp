@@ -40,8 +40,8 @@ TEST_F(XlsxWriterTest, HasTheContentAndTheLooksOfTheOtherWorkbook)
     EXPECT_EQ(ReadXlsx(), "Pumps_ all A2 left to right\n"
                           "13.7109375 35.0\n"
                           "s 'Tag' l c b - | s 'Flow' l t b -\n"
-                          "s '=P' l t . 112233 | s '007' r t . -\n"
-                          "blank l t . - | 12.5 (0.00) r t . -");
+                          "s '=P' l c . 112233 | s '007' r c . -\n"
+                          "blank l c . - | 12.5 (0.00) r c . -");
 }
 
 TEST_F(XlsxWriterTest, RightToLeftTheSidesAreExchanged)
