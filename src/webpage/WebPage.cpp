@@ -44,9 +44,9 @@ public:
     void Write(const PaperColumns& paper, const std::string& title)
     {
         const bool isOneTable = paper.groups.size() == 1;
-        m_output.Text() += "<body>\n<div class=\"page\" role=\"region\" aria-labelledby=\"title\" tabindex=\"0\">\n";
+        m_output.Text() += "<body>\n<section class=\"page\" aria-labelledby=\"title\" tabindex=\"0\">\n";
         WriteTable(ShownColumns(m_sheet), isOneTable ? GroupClass(0) : "all", "<caption id=\"title\">" + title);
-        m_output.Text() += "</div>\n";
+        m_output.Text() += "</section>\n";
         if (!isOneTable)
             WriteGroups(paper.groups, title);
         m_output.Text() += "</body>\n</html>\n";
@@ -67,10 +67,11 @@ private:
     {
         const bool hasRowHeaders = !columns.empty() && columns.front() == Column(0);
         std::string& text = m_output.Text();
-        text += "<table class=\"" + groupClass + (hasRowHeaders ? " r" : "") + "\">\n" + caption + "</caption>\n";
+        text +=
+            "<table class=\"" + groupClass + (hasRowHeaders ? " r" : "") + "\">\n" + caption + "</caption>\n<colgroup>";
         for (std::size_t column = 0; column < columns.size(); ++column)
             text += "<col>";
-        text += "\n";
+        text += "</colgroup>\n";
         PageTable(m_sheet, m_page, m_styles, columns, m_output).Write();
         text += "</table>\n";
     }
