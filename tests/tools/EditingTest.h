@@ -115,4 +115,11 @@ protected:
     }
 };
 
+/// On the editable schedule.
+class CellEditingTest : public EditingTest
+{
+protected:
+    void ShowSchedule() { Show(kScheduleView, kEditable); }
+};
+
 } // namespace schedules
