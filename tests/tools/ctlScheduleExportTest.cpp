@@ -42,6 +42,15 @@ protected:
 
     std::string Files() const { return QDir(folder.path()).entryList(QDir::Files, QDir::Name).join(' ').toStdString(); }
 
+    /// One that fits a page only when that is turned.
+    static QString WideTable()
+    {
+        QString row;
+        for (int column = 0; column < 12; ++column)
+            row += QStringLiteral("<TD>a value of column %1</TD>").arg(column);
+        return QStringLiteral("<TABLE><TR><TH/>%1</TR><TR><TH/>%1</TR></TABLE>").arg(row);
+    }
+
     /// "upright" or "across", and how many pages a PDF has.
     std::string PageSize(const char* name) const
     {
@@ -226,12 +235,24 @@ TEST_F(ExportTest, EachFormatIsWritten)
     EXPECT_TRUE(Content(Path("html")).startsWith("<!DOCTYPE html>"));
 }
 
+TEST_F(ExportTest, TheViewPrintsSmart)
+{
+    Show(kScheduleView, WideTable());
+    testing::OnceModal<PrintPreview>([](PrintPreview& preview) {
+        for (auto* button : preview.findChildren<QAbstractButton*>()) {
+            if (button->text().contains(QStringLiteral("PDF")))
+                button->click();
+        }
+    });
+    user.fileNames = {Path("out.pdf")};
+    Click("btnPrint");
+    EXPECT_EQ(PageSize("out.pdf"), "across, pages: 1");
+    EXPECT_EQ(Boxes(), "");
+}
+
 TEST_F(ExportTest, SmartPrintTurnsAWideTableAndPlainPrintDoesNot)
 {
-    QString row;
-    for (int column = 0; column < 12; ++column)
-        row += QStringLiteral("<TD>a value of column %1</TD>").arg(column);
-    Show(kScheduleView, QStringLiteral("<TABLE><TR><TH/>%1</TR><TR><TH/>%1</TR></TABLE>").arg(row));
+    Show(kScheduleView, WideTable());
     ASSERT_EQ(view.WritePdf(Path("smart.pdf"), true, QPageSize::A4), QString());
     ASSERT_EQ(view.WritePdf(Path("plain.pdf"), false, QPageSize::A4), QString());
     EXPECT_EQ(PageSize("smart.pdf"), "across, pages: 1");
