@@ -1,6 +1,7 @@
 // What leaves the view as a file: the questions that are asked, what is written, and what the user is told.
 
 #include "controls/PrintPreview.h"
+#include "support/FileSizeLimit.h"
 #include "support/ModalDialog.h"
 #include "support/TraceLog.h"
 #include "tools/EditingTest.h"
@@ -223,6 +224,27 @@ TEST_F(ExportTest, FilesThatCannotBeWrittenSayWhy)
     EXPECT_NE(view.WritePdf(Path("gone/out.pdf"), true, QPageSize::A4), QString());
     EXPECT_EQ(view.WriteFile(QStringLiteral("odt"), Path("out.odt")), QStringLiteral("There is no format \"odt\"."));
     EXPECT_EQ(Files(), "");
+}
+
+TEST_F(ExportTest, WhatIsCutShortLeavesTheFormerFile)
+{
+    ShowTable();
+    for (const char* name : {"out.pdf", "out.xls", "out.xlsx", "out.csv", "out.html"}) {
+        QFile former(Path(name));
+        ASSERT_TRUE(former.open(QIODevice::WriteOnly));
+        former.write("former");
+    }
+    {
+        const testing::FileSizeLimit full(10);
+        EXPECT_NE(view.WritePdf(Path("out.pdf"), true, QPageSize::A4), QString());
+        for (const char* format : {"xls", "xlsx", "csv", "html"})
+            EXPECT_NE(view.WriteFile(QLatin1String(format), Path(qPrintable(QStringLiteral("out.") + format))),
+                      QString())
+                << format;
+    }
+    for (const char* name : {"out.pdf", "out.xls", "out.xlsx", "out.csv", "out.html"})
+        EXPECT_EQ(Content(Path(name)).toStdString(), "former") << name;
+    EXPECT_EQ(Files(), "out.csv out.html out.pdf out.xls out.xlsx");
 }
 
 TEST_F(ExportTest, EachFormatIsWritten)
