@@ -93,7 +93,8 @@ std::string GroupRules(const ColumnGroup& group, const std::string& table)
 
 std::string GroupClass(std::size_t number)
 {
-    return "g" + std::to_string(number + 1);
+    std::string name("g");
+    return name.append(std::to_string(number + 1));
 }
 
 std::uint32_t PageFill(std::optional<std::uint32_t> backColor)
@@ -133,7 +134,7 @@ std::string PageStyles::PaperRules(const PaperColumns& paper)
     if (paper.groups.size() > 1)
         rules += ".page{display:none}\n.paper{display:block}\n";
     for (std::size_t number = 0; number < paper.groups.size(); ++number)
-        rules += GroupRules(paper.groups[number], "." + GroupClass(number));
+        rules += GroupRules(paper.groups[number], std::string(".").append(GroupClass(number)));
     return rules + "}\n";
 }
 
