@@ -2,6 +2,7 @@
 
 #include "common/Error.h"
 #include "support/FileSizeLimit.h"
+#include "support/FormerFile.h"
 #include "workbook/CsvWriter.h"
 #include "workbook/ReadBack.h"
 #include "workbook/Workbook.h"
@@ -28,18 +29,10 @@ struct FullDiskTest : ::testing::TestWithParam<int>, WrittenSheet
                 sheet.SetText(At(column, row), QStringLiteral("%1 of %2").arg(column).arg(row));
         }
         sheet.SetSize(5, 2'000);
-        QFile old(FileName());
-        EXPECT_TRUE(old.open(QFile::WriteOnly));
-        old.write("old");
+        WriteFormerFile(FileName());
     }
 
-    void ExpectOldFile() const
-    {
-        QFile file(FileName());
-        ASSERT_TRUE(file.open(QFile::ReadOnly));
-        EXPECT_EQ(file.readAll(), "old");
-        EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
-    }
+    void ExpectOldFile() const { ExpectFormerFile(FileName()); }
 
     template <class Write>
     bool Fails(Write&& write) const
