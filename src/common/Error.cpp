@@ -19,10 +19,10 @@ Error::Error(int number, const QString& description, const QString& source, int 
 {
 }
 
-QString SourceName::In(const char* procedure) const
+QualifiedName::operator QString() const
 {
     return QStringLiteral("%1.%2.%3")
-        .arg(QLatin1String(kComponentName), QLatin1String(m_typeName), QLatin1String(procedure));
+        .arg(QLatin1String(kComponentName), QLatin1String(typeName), QLatin1String(procedure));
 }
 
 Error CurrentError()
@@ -45,14 +45,18 @@ void Trace(const QString& line)
     qCDebug(kTrace).noquote() << line;
 }
 
-void ReportError(UserInterface& userInterface, const Error& error, const QString& source, const QString& message,
-                 int style) noexcept
+void ReportMessage(UserInterface& userInterface, const MessageBox& box) noexcept
 {
     IgnoringErrors([&] {
-        Trace(source + QStringLiteral(": ") + error.Description());
+        Trace(box.title + QStringLiteral(": ") + box.text);
         userInterface.SetPointer(Pointer::Default);
-        userInterface.Show({message.isEmpty() ? error.Description() : message, style, source});
+        userInterface.Show(box);
     });
+}
+
+void ReportError(UserInterface& userInterface, const Error& error, const QString& source) noexcept
+{
+    IgnoringErrors([&] { ReportMessage(userInterface, {error.Description(), kExclamation, source}); });
 }
 
 } // namespace schedules

@@ -47,12 +47,22 @@ private:
     QByteArray m_what;
 };
 
-/// Makes the qualified names of a type's procedures, "Schedules.CSchedule.LoadScheduleData".
+/// The qualified name of a procedure, "Schedules.CSchedule.LoadScheduleData". It becomes a text when it is used as one,
+/// which is when something has failed.
+struct QualifiedName
+{
+    const char* typeName;
+    const char* procedure;
+
+    operator QString() const;
+};
+
+/// Makes the qualified names of a type's procedures.
 class SourceName
 {
 public:
     explicit constexpr SourceName(const char* typeName) : m_typeName(typeName) {}
-    QString In(const char* procedure) const;
+    constexpr QualifiedName In(const char* procedure) const { return {m_typeName, procedure}; }
 
 private:
     const char* m_typeName;
@@ -64,15 +74,17 @@ Error CurrentError();
 /// Writes a debug trace line.
 void Trace(const QString& line);
 
-/// The shared reporter: a trace line, the default pointer and a message box with `message`, or with the error's own
-/// description when that is empty, titled with the source. Never throws.
-void ReportError(UserInterface& userInterface, const Error& error, const QString& source, const QString& message = {},
-                 int style = kExclamation) noexcept;
+/// The shared reporter: a trace line, the default pointer and a message box, titled with the source of what failed.
+/// Never throws.
+void ReportMessage(UserInterface& userInterface, const MessageBox& box) noexcept;
+
+/// The same for an error, with its description.
+void ReportError(UserInterface& userInterface, const Error& error, const QString& source) noexcept;
 
 /// Runs `body` and returns what it returns. Whatever it throws is told to the shared reporter, and the result is then
 /// `fallback`.
 template <class Result, std::invocable Body>
-Result Reported(UserInterface& userInterface, const QString& source, Result fallback, Body&& body)
+Result Reported(UserInterface& userInterface, QualifiedName source, Result fallback, Body&& body)
 {
     try {
         return std::invoke(body);
@@ -83,7 +95,7 @@ Result Reported(UserInterface& userInterface, const QString& source, Result fall
 }
 
 template <std::invocable Body>
-void Reported(UserInterface& userInterface, const QString& source, Body&& body)
+void Reported(UserInterface& userInterface, QualifiedName source, Body&& body)
 {
     Reported(userInterface, source, false, [&] { return std::invoke(body), true; });
 }

@@ -1,5 +1,6 @@
 #include "common/Module1.h"
 
+#include "common/Blanks.h"
 #include "common/StringNumbers.h"
 #include "common/modResource.h"
 
@@ -14,16 +15,6 @@ constexpr int kSystemMessageBufferSize = 1024;
 QString SystemMessage(int code)
 {
     return QString::fromLocal8Bit(std::system_category().message(code).c_str()).left(kSystemMessageBufferSize - 1);
-}
-
-// Blanks alone: other white space may be part of a folder's name.
-QString TrimmedOfBlanks(QString text)
-{
-    while (text.endsWith(QLatin1Char(' ')))
-        text.chop(1);
-    while (text.startsWith(QLatin1Char(' ')))
-        text.remove(0, 1);
-    return text;
 }
 
 QString ErrorText(const Error& error)

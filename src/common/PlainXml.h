@@ -16,13 +16,13 @@ namespace schedules {
 /// in which text comes. `utf8` must be valid UTF-8.
 bool ReadPlainXml(const QByteArray& utf8, XmlHandler& handler);
 
-/// What a handler makes of a document that is read in the faster way if it is written plainly; nothing when the full
-/// parser refuses it.
-template <std::derived_from<XmlHandler> Handler>
-std::optional<Handler> ReadEitherWay(const QByteArray& utf8)
+/// What a handler, made of `arguments`, makes of a document that is read in the faster way if it is written plainly;
+/// nothing when the full parser refuses it.
+template <std::derived_from<XmlHandler> Handler, class... Arguments>
+std::optional<Handler> ReadEitherWay(const QByteArray& utf8, const Arguments&... arguments)
 {
     for (const auto readDocument : {ReadPlainXml, ReadXml}) {
-        Handler handler;
+        Handler handler(arguments...);
         if (readDocument(utf8, handler))
             return handler;
     }

@@ -30,7 +30,8 @@ struct MessageBox
     QString text;
     int style = kOkOnly;
     QString title;
-    int number = 0; ///< the number of the localised text that is shown; 0 when there is none
+    int number = 0;  ///< the number of the localised text that is shown; 0 when there is none
+    QString subject; ///< what it is about, such as a file's name, for whoever gathers boxes; may be empty
 };
 
 /// What a file dialog minds, as the sum of their numbers; other numbers are kept and mean nothing.

@@ -4,6 +4,7 @@
 
 #include <QStringEncoder>
 
+#include <algorithm>
 #include <exception>
 #include <libxml/parser.h>
 #include <libxml/parserInternals.h>
@@ -16,20 +17,58 @@ namespace schedules {
 namespace {
 
 constexpr int kFieldsPerAttribute = 5;
+constexpr int kFieldsPerDeclaration = 2;
+constexpr std::string_view kDeclaration = "xmlns";
 
 /// The parser searches the namespaces in scope for every prefix; each takes two places of its stack.
 constexpr int kMaxNamespacePlaces = 2 * 4096;
 
 std::string_view View(const xmlChar* text)
 {
-    return reinterpret_cast<const char*>(text);
+    return text ? std::string_view(reinterpret_cast<const char*>(text)) : std::string_view();
 }
 
 /// An attribute out of the parser's five pointers: name, prefix, namespace, start and end of the value.
 XmlAttribute AttributeAt(const xmlChar** fields)
 {
     const auto* start = reinterpret_cast<const char*>(fields[3]);
-    return {View(fields[0]), {start, static_cast<std::size_t>(fields[4] - fields[3])}, fields[2] != nullptr};
+    return {View(fields[0]),
+            {start, static_cast<std::size_t>(fields[4] - fields[3])},
+            fields[2] != nullptr,
+            View(fields[1])};
+}
+
+/// A namespace declaration out of the parser's two pointers: prefix and namespace.
+XmlAttribute DeclarationAt(const xmlChar** fields)
+{
+    if (!fields[0])
+        return {kDeclaration, View(fields[1])};
+    return {View(fields[0]), View(fields[1]), true, kDeclaration};
+}
+
+QString Text(std::string_view utf8)
+{
+    return QString::fromUtf8(utf8.data(), std::ssize(utf8));
+}
+
+QString WrittenName(const XmlAttribute& attribute)
+{
+    return attribute.prefix.empty() ? Text(attribute.name) : Text(attribute.prefix) + u':' + Text(attribute.name);
+}
+
+/// The names of the attributes of a well-formed tag, as they are written.
+std::vector<std::string_view> NamesIn(std::string_view tag)
+{
+    constexpr std::string_view kSpaces = " \t\r\n";
+    std::vector<std::string_view> names;
+    std::size_t at = tag.find_first_of(" \t\r\n/>");
+    while ((at = tag.find_first_not_of(kSpaces, at)) < tag.size() && tag[at] != '/' && tag[at] != '>') {
+        const std::size_t end = tag.find_first_of(" \t\r\n=", at);
+        names.push_back(tag.substr(at, end - at));
+        const std::size_t quote = tag.find_first_of("\"'", end);
+        at = tag.find(tag[quote], quote + 1) + 1;
+    }
+    return names;
 }
 
 /// One reading: passes the parser's calls on, and keeps exceptions from crossing the parser's frames.
@@ -71,7 +110,7 @@ private:
         sax.characters = OnText;
         sax.ignorableWhitespace = OnText;
         sax.comment = [](void* context, const xmlChar*) { Of(context).TellOtherNode(); };
-        sax.cdataBlock = [](void* context, const xmlChar*, int) { Of(context).TellOtherNode(); };
+        sax.cdataBlock = OnCData;
         sax.processingInstruction = [](void* context, const xmlChar*, const xmlChar*) { Of(context).TellOtherNode(); };
         sax.internalSubset = [](void* context, const xmlChar*, const xmlChar*, const xmlChar*) {
             Of(context).Refuse();
@@ -80,8 +119,8 @@ private:
         return sax;
     }
 
-    static void OnStart(void* context, const xmlChar* name, const xmlChar*, const xmlChar* uri, int, const xmlChar**,
-                        int count, int, const xmlChar** attributes)
+    static void OnStart(void* context, const xmlChar* name, const xmlChar*, const xmlChar* uri, int declarationCount,
+                        const xmlChar** declarations, int count, int, const xmlChar** attributes)
     {
         if (Of(context).m_parser->nsNr > kMaxNamespacePlaces)
             return Of(context).Refuse();
@@ -91,7 +130,8 @@ private:
                                   uri != nullptr,
                                   Of(context).Attributes(attributes, count),
                                   {},
-                                  Of(context).m_text.rfind('<', Of(context).Offset())});
+                                  Of(context).m_text.rfind('<', Of(context).Offset()),
+                                  Of(context).Declarations(declarations, declarationCount)});
         });
     }
 
@@ -99,6 +139,13 @@ private:
     {
         Of(context).Guarded([&](XmlHandler& handler) {
             handler.Text({reinterpret_cast<const char*>(text), static_cast<std::size_t>(length)});
+        });
+    }
+
+    static void OnCData(void* context, const xmlChar* text, int length)
+    {
+        Of(context).Guarded([&](XmlHandler& handler) {
+            handler.CData({reinterpret_cast<const char*>(text), static_cast<std::size_t>(length)});
         });
     }
 
@@ -110,6 +157,14 @@ private:
         for (int index = 0; index < count; ++index)
             m_attributes.push_back(AttributeAt(fields + index * kFieldsPerAttribute));
         return m_attributes;
+    }
+
+    std::span<const XmlAttribute> Declarations(const xmlChar** fields, int count)
+    {
+        m_declarations.clear();
+        for (int index = 0; index < count; ++index)
+            m_declarations.push_back(DeclarationAt(fields + index * kFieldsPerDeclaration));
+        return m_declarations;
     }
 
     template <class Call>
@@ -140,6 +195,7 @@ private:
     XmlHandler& m_handler;
     std::unique_ptr<xmlParserCtxt, decltype(&xmlFreeParserCtxt)> m_parser;
     std::vector<XmlAttribute> m_attributes;
+    std::vector<XmlAttribute> m_declarations;
     std::exception_ptr m_exception;
     bool m_refused = false;
 };
@@ -151,6 +207,28 @@ bool ReadXml(const QByteArray& utf8, XmlHandler& handler)
     const bool readable = !utf8.isEmpty() && utf8.size() <= std::numeric_limits<int>::max() &&
                           WithinTagBounds({utf8.constData(), static_cast<std::size_t>(utf8.size())});
     return readable && Reading(utf8, handler).Run();
+}
+
+std::vector<XmlWrittenAttribute> WrittenAttributes(std::string_view document, const XmlStartTag& tag)
+{
+    std::vector<XmlWrittenAttribute> written;
+    const auto add = [&written](const XmlAttribute& attribute) {
+        written.push_back({WrittenName(attribute), Text(attribute.value)});
+    };
+    if (tag.declarations.empty()) {
+        std::ranges::for_each(tag.attributes, add);
+        return written;
+    }
+    // The parser tells both kinds apart, each in its order; the document knows how they mix.
+    auto attribute = tag.attributes.begin();
+    auto declaration = tag.declarations.begin();
+    for (const std::string_view name : NamesIn(document.substr(tag.start))) {
+        if (name != kDeclaration && !name.starts_with("xmlns:"))
+            add(*attribute++);
+        else if (declaration != tag.declarations.end() && WrittenName(*declaration) == Text(name))
+            add(*declaration++); // else it declares the prefix "xml", of which the parser does not tell
+    }
+    return written;
 }
 
 std::optional<QByteArray> XmlUtf8(const QString& text)

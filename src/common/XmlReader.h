@@ -6,6 +6,7 @@
 #include <optional>
 #include <span>
 #include <string_view>
+#include <vector>
 
 namespace schedules {
 
@@ -15,6 +16,7 @@ struct XmlAttribute
     std::string_view name;
     std::string_view value;
     bool inNamespace = false;
+    std::string_view prefix = {};
 };
 
 /// The start tag of an element, while it is being read.
@@ -30,6 +32,9 @@ struct XmlStartTag
 
     /// Where the tag begins, in bytes from the start of the document.
     std::size_t start = 0;
+
+    /// The namespaces that it declares: "xmlns", or a name with the prefix "xmlns", and the namespace.
+    std::span<const XmlAttribute> declarations = {};
 
     /// Whether this is an element of that name in no namespace.
     bool Is(std::string_view wanted) const { return !inNamespace && name == wanted; }
@@ -50,6 +55,9 @@ public:
 
     /// A comment, a processing instruction or a CDATA section.
     virtual void OtherNode() = 0;
+
+    /// A CDATA section, for those who want its text.
+    virtual void CData(std::string_view) { OtherNode(); }
 };
 
 /// Reads a document of UTF-8 text in one pass. False when it is not well-formed, breaks the namespace rules, has a
@@ -57,6 +65,16 @@ public:
 /// more than 4,096 namespaces in scope, 4,096 attributes or 1 MiB in one tag.
 /// What the handler was told before is void then. Nothing outside of the text is ever read.
 bool ReadXml(const QByteArray& utf8, XmlHandler& handler);
+
+/// An attribute under its name as it is written, with its prefix.
+struct XmlWrittenAttribute
+{
+    QString name;
+    QString value;
+};
+
+/// All attributes of a tag of `document` as they are written, namespace declarations among them, in their order.
+std::vector<XmlWrittenAttribute> WrittenAttributes(std::string_view document, const XmlStartTag& tag);
 
 /// A text handed over in memory as UTF-8; nothing when it holds unpaired surrogates or null characters.
 std::optional<QByteArray> XmlUtf8(const QString& text);

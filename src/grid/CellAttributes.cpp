@@ -42,7 +42,7 @@ CellAttributes Understood(const XmlStartTag& tag, CellKind kind)
 {
     CellAttributes cell;
     bool visible = false;
-    for (const auto& [name, value, inNamespace] : tag.attributes) {
+    for (const auto& [name, value, inNamespace, prefix] : tag.attributes) {
         if (inNamespace)
             continue;
         if (name == "dataType")

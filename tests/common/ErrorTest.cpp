@@ -96,11 +96,15 @@ TEST(Reported, AFailureInsideOfAReportedOneIsToldOnce)
     EXPECT_EQ(Seen(user), "48|Schedules.CSchedule.Inner|Unexpected error\n");
 }
 
-TEST(ReportError, ShowsAMessageInPlaceOfTheDescription)
+TEST(ReportMessage, ShowsTheBoxAsItIsAfterTheDefaultPointerAndATraceLine)
 {
     ScriptedUserInterface user;
-    ReportError(user, Error(5, QStringLiteral("bad")), QStringLiteral("S"), QStringLiteral("Worse"), kCritical);
+    const TraceLog trace;
+    ReportMessage(user, {QStringLiteral("Worse"), kCritical, QStringLiteral("S"), 3023});
     EXPECT_EQ(Seen(user), "16|S|Worse\n");
+    EXPECT_EQ(user.boxes.front().number, 3023);
+    EXPECT_EQ(user.pointers, std::vector{Pointer::Default});
+    EXPECT_EQ(trace.lines, QStringList{QStringLiteral("S: Worse")});
 }
 
 TEST(ReportError, NeverThrows)

@@ -1,0 +1,110 @@
+#include "common/XmlBytes.h"
+
+#include "common/XmlReader.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QStringDecoder>
+
+#include <libxml/encoding.h>
+#include <libxml/tree.h>
+#include <libxml/xmlerror.h>
+#include <memory>
+#include <new>
+
+namespace schedules {
+
+namespace {
+
+using Buffer = std::unique_ptr<xmlBuffer, decltype(&xmlBufferFree)>;
+
+Buffer NewBuffer()
+{
+    Buffer buffer(xmlBufferCreate(), xmlBufferFree);
+    return buffer ? std::move(buffer) : throw std::bad_alloc();
+}
+
+/// The library tells of bytes that it cannot convert; nobody wants to read it.
+class SilentLibrary
+{
+public:
+    SilentLibrary() : m_context(xmlStructuredErrorContext), m_before(xmlStructuredError)
+    {
+        xmlSetStructuredErrorFunc(nullptr, [](void*, xmlErrorPtr) {});
+    }
+    ~SilentLibrary() { xmlSetStructuredErrorFunc(m_context, m_before); }
+    Q_DISABLE_COPY_MOVE(SilentLibrary)
+
+private:
+    void* m_context;
+    xmlStructuredErrorFunc m_before;
+};
+
+/// Bytes that are UTF-16 or UTF-32 or start with a byte-order mark.
+std::optional<QByteArray> FromUnicode(const QByteArray& bytes, QStringConverter::Encoding encoding)
+{
+    QStringDecoder decoder(encoding, QStringConverter::Flag::Stateless); // else a cut-off end goes unnoticed
+    const QString text = decoder(bytes);
+    return decoder.hasError() ? std::nullopt : XmlUtf8(text);
+}
+
+/// The encoding that the declaration names; empty when it names none.
+QByteArray DeclaredEncoding(const QByteArray& bytes)
+{
+    static const QRegularExpression kEncoding(
+        QStringLiteral(R"re(^<\?xml[^>]*?\sencoding\s*=\s*["']([A-Za-z0-9._-]+)["'])re"));
+    constexpr qsizetype kLongestDeclaration = 1024;
+    return kEncoding.match(QString::fromLatin1(bytes.left(kLongestDeclaration))).captured(1).toLatin1();
+}
+
+std::optional<QByteArray> FromEncoding(const QByteArray& bytes, const QByteArray& encoding)
+{
+    xmlCharEncodingHandler* handler = xmlFindCharEncodingHandler(encoding.constData());
+    if (!handler)
+        return std::nullopt;
+    const std::unique_ptr<xmlCharEncodingHandler, int (*)(xmlCharEncodingHandler*)> owned(handler, xmlCharEncCloseFunc);
+    const SilentLibrary silent;
+    const Buffer in = NewBuffer();
+    const Buffer out = NewBuffer();
+    xmlBufferAdd(in.get(), reinterpret_cast<const xmlChar*>(bytes.constData()), static_cast<int>(bytes.size()));
+    while (xmlBufferLength(in.get()) > 0) {
+        if (xmlCharEncInFunc(handler, out.get(), in.get()) <= 0)
+            return std::nullopt;
+    }
+    return QByteArray(reinterpret_cast<const char*>(xmlBufferContent(out.get())), xmlBufferLength(out.get()));
+}
+
+std::optional<QByteArray> Decoded(const QByteArray& bytes)
+{
+    if (const auto encoding = QStringConverter::encodingForData(bytes, u'<'))
+        return FromUnicode(bytes, *encoding);
+    const QByteArray encoding = DeclaredEncoding(bytes);
+    if (!encoding.isEmpty() && encoding.compare("UTF-8", Qt::CaseInsensitive) != 0)
+        return FromEncoding(bytes, encoding);
+    return bytes.isValidUtf8() ? std::optional(bytes) : std::nullopt;
+}
+
+} // namespace
+
+std::optional<QByteArray> XmlUtf8FromBytes(const QByteArray& bytes)
+{
+    auto utf8 = Decoded(bytes);
+    if (utf8 && utf8->contains('\r'))
+        utf8->replace("\r\n", "\n").replace('\r', '\n');
+    return utf8;
+}
+
+std::optional<QByteArray> XmlUtf8FromFile(const QString& fileName, qint64 mostBytes)
+{
+    QFile file(fileName);
+    // What is no file, such as a pipe, might never end.
+    if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    if (file.size() > mostBytes)
+        return std::nullopt;
+    const QByteArray bytes = file.read(file.size() + 1);
+    return file.error() == QFileDevice::NoError ? XmlUtf8FromBytes(bytes) : std::nullopt;
+}
+
+} // namespace schedules
