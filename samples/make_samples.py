@@ -3,7 +3,7 @@
 
 A schedule has two tables: NAME.items.csv lists its data items (key, group, label, unit, type, and the flags editable,
 userdefined, hidden and color), NAME.tags.csv has a line for every tag and a column for every item. A selection has
-NAME.tags.csv alone.
+NAME.tags.csv alone. Of the items, make_templates.py makes templates, and has columns of its own for that.
 
 In a schedule the lines of the table are the rows of the grid. What colours a whole row then stands on the header cell of
 the same number, and what colours a whole column on the row of that number; so header cells may go on, empty, beyond the
