@@ -19,6 +19,12 @@ namespace {
 /// The first one is written when none is named.
 const QStringList kFormats{"png", "pdf", "xls", "xlsx", "csv", "html"};
 
+const QHash<QString, Form> kCommands{{"dump", Form::Dump},
+                                     {"render", Form::Render},
+                                     {"template", Form::Template},
+                                     {"catalogue", Form::Catalogue},
+                                     {"find", Form::Find}};
+
 const QStringList kCommonOptions{"view", "select-all", "messages", "language", "palette"};
 const QStringList kActionOptions{"transpose", "edit", "tick", "sort", "continue", "save"};
 const QStringList kRenderOptions = kFormats + QStringList{"out", "as", "title", "plain-print", "paper"};
@@ -49,6 +55,10 @@ QStringList OptionsOf(Form form)
         return kCommonOptions + kActionOptions;
     case Form::Render:
         return kCommonOptions + kActionOptions + kRenderOptions;
+    case Form::Template:
+    case Form::Catalogue:
+    case Form::Find:
+        return {QStringLiteral("language")};
     default:
         return kCommonOptions;
     }
@@ -76,13 +86,6 @@ QString FileName(const QCommandLineParser& parser, const QString& name)
     if (parser.isSet(name) && parser.value(name).isEmpty())
         throw HostError(QStringLiteral("--%1 needs a file name").arg(name));
     return parser.value(name);
-}
-
-Form FormNamed(const QString& word)
-{
-    if (word == QLatin1String("dump"))
-        return Form::Dump;
-    return word == QLatin1String("render") ? Form::Render : Form::Window;
 }
 
 void CheckOptions(const QCommandLineParser& parser, Form form)
@@ -179,14 +182,45 @@ RenderOptions Rendering(const QCommandLineParser& parser)
             .paper = kPapers[std::size_t(paper)]};
 }
 
+void RequireNames(const QStringList& files)
+{
+    if (files.contains(QString()))
+        throw HostError(QStringLiteral("the file name is empty"));
+}
+
 void CheckFiles(const QStringList& files, Form form)
 {
     if (files.isEmpty() && form != Form::Window)
         throw HostError(QStringLiteral("a file is missing"));
     if (files.size() > 1 && form != Form::Render)
         throw HostError(QStringLiteral("one file at a time, not also '%1'").arg(files[1]));
-    if (files.contains(QString()))
-        throw HostError(QStringLiteral("the file name is empty"));
+    RequireNames(files);
+}
+
+/// Whether a folder will do is the catalogue's to say.
+void CheckLists(const QStringList& arguments)
+{
+    if (arguments.size() != 3)
+        throw HostError(QStringLiteral("catalogue takes a list of templates, a list of categories, and a folder"));
+    RequireNames(arguments.first(2));
+}
+
+void CheckPattern(const QStringList& arguments)
+{
+    if (arguments.size() != 1)
+        throw HostError(QStringLiteral("find takes one pattern, in quotes if a shell would expand it"));
+}
+
+void CheckArguments(const QStringList& arguments, Form form)
+{
+    switch (form) {
+    case Form::Catalogue:
+        return CheckLists(arguments);
+    case Form::Find:
+        return CheckPattern(arguments);
+    default:
+        return CheckFiles(arguments, form);
+    }
 }
 
 /// An output has either a name of its own or one that is made from folder and input.
@@ -244,11 +278,11 @@ void CheckRendering(const QCommandLineParser& parser, const CommandLine& command
 CommandLine Understood(const QCommandLineParser& parser)
 {
     QStringList words = parser.positionalArguments();
-    const Form form = FormNamed(words.value(0));
+    const Form form = kCommands.value(words.value(0), Form::Window);
     CheckOptions(parser, form);
     if (form != Form::Window)
         words.removeFirst();
-    CheckFiles(words, form);
+    CheckArguments(words, form);
     const bool selector = OneOf(parser, QStringLiteral("view"), kViews) == kViews.last();
     return {.form = form,
             .files = words,

@@ -15,6 +15,9 @@ enum class Form
     Window,
     Dump,
     Render,
+    Template,
+    Catalogue,
+    Find,
     Help,
     Version
 };
@@ -103,7 +106,11 @@ struct RenderOptions
 struct CommandLine
 {
     Form form = Form::Window;
-    QStringList files; ///< several for `render` only; none: the user's copy of the sample
+
+    /// One, or none for the user's copy of the sample; several for `render`. For `catalogue` the list of templates,
+    /// that of categories, and the folder; for `find` the pattern.
+    QStringList files;
+
     ViewOptions view;
     UserActions actions;
     QString messages; ///< the file that every message is appended to; empty for none

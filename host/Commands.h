@@ -17,6 +17,16 @@ int RunWindow(const CommandLine& commandLine);
 /// Prints the loaded grid on standard output.
 int RunDump(const CommandLine& commandLine);
 
+/// Reads a template and prints what it is saved as.
+int RunTemplate(const CommandLine& commandLine);
+
+/// Prints the catalogue of templates that two lists and a folder make. What the component reports in making it is told
+/// in a line each.
+int RunCatalogue(const CommandLine& commandLine);
+
+/// Prints the files that match a pattern.
+int RunFind(const CommandLine& commandLine);
+
 /// Draws the view into a file and prints the file's name.
 int RunRender(const CommandLine& commandLine);
 

@@ -5,6 +5,22 @@
 
 namespace schedules::host {
 
+namespace {
+
+QString LineOf(const MessageBox& box)
+{
+    const QString text = box.text.simplified();
+    return box.number == 0 ? text : text + QStringLiteral(" (%1)").arg(box.number);
+}
+
+QString ReportOf(const MessageBox& box)
+{
+    const QString subject = box.subject.simplified();
+    return subject.isEmpty() ? LineOf(box) : subject + QStringLiteral(": ") + LineOf(box);
+}
+
+} // namespace
+
 Answer ConsoleUserInterface::Show(const MessageBox& box)
 {
     m_boxes.append(box);
@@ -19,9 +35,15 @@ std::optional<QString> ConsoleUserInterface::TakeFailure()
     if (boxes.isEmpty())
         return std::nullopt;
     const auto numbered = std::ranges::find_if(boxes, [](const MessageBox& box) { return box.number != 0; });
-    if (numbered == boxes.end())
-        return boxes.first().text.simplified();
-    return QStringLiteral("%1 (%2)").arg(numbered->text.simplified(), QString::number(numbered->number));
+    return LineOf(numbered == boxes.end() ? boxes.first() : *numbered);
+}
+
+QStringList ConsoleUserInterface::TakeReports()
+{
+    QStringList lines;
+    for (const MessageBox& box : std::exchange(m_boxes, {}))
+        lines << ReportOf(box);
+    return lines;
 }
 
 } // namespace schedules::host

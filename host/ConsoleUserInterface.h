@@ -3,6 +3,7 @@
 #include "common/UserInterface.h"
 
 #include <QList>
+#include <QStringList>
 
 #include <optional>
 
@@ -20,6 +21,10 @@ public:
     /// What went wrong since the last call, as one line: the first message with a number, the number behind it in
     /// brackets; without any numbered one the first message. Nothing when no message was shown.
     std::optional<QString> TakeFailure();
+
+    /// Every message since the last call as a line, in order: what it is about, if it says so, its text, and its number
+    /// in brackets, if it has one.
+    QStringList TakeReports();
 
 private:
     QList<MessageBox> m_boxes;

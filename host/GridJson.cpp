@@ -1,31 +1,18 @@
 #include "host/GridJson.h"
 
+#include "host/Json.h"
 #include "spread/Sheet.h"
-
-#include <QJsonArray>
-#include <QJsonDocument>
 
 namespace schedules::host {
 
 namespace {
-
-QByteArray Quoted(const QString& text)
-{
-    const QByteArray array = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
-    return array.sliced(1, array.size() - 2);
-}
-
-QByteArray Flag(bool value)
-{
-    return value ? "true" : "false";
-}
 
 QByteArray Widths(const Sheet& sheet)
 {
     QByteArrayList widths;
     for (int column = 0; column <= sheet.ColumnCount(); ++column)
         widths.append(QByteArray::number(sheet.ColumnWidth(Column(column))));
-    return '[' + widths.join(',') + ']';
+    return JsonArray(widths);
 }
 
 template <class Index>
@@ -36,7 +23,7 @@ QByteArray Hidden(const Sheet& sheet, int last)
         if (sheet.Hidden(Index(index)))
             hidden.append(QByteArray::number(index));
     }
-    return '[' + hidden.join(',') + ']';
+    return JsonArray(hidden);
 }
 
 /// The rows from top to bottom, when they are shown in an order of their own.
@@ -47,7 +34,7 @@ QByteArray RowOrderJson(const Axis& rows)
     QByteArrayList order;
     for (int position = 1; position <= rows.Count(); ++position)
         order.append(QByteArray::number(rows.ItemAt(position)));
-    return ",\n\"rowOrder\":[" + order.join(',') + ']';
+    return ",\n\"rowOrder\":" + JsonArray(order);
 }
 
 /// Nothing for a cell that is empty and looks like any other.
@@ -59,10 +46,12 @@ QByteArray CellJson(const Sheet& sheet, Cell cell)
     const auto color = sheet.BackColor(cell);
     if (text.isEmpty() && !checkBox && !bold && !color)
         return {};
-    return "{\"column\":" + QByteArray::number(cell.column.Value()) +
-           ",\"row\":" + QByteArray::number(cell.row.Value()) + ",\"text\":" + Quoted(text) +
-           ",\"type\":" + (checkBox ? "\"checkbox\"" : "\"text\"") + ",\"bold\":" + Flag(bold) +
-           ",\"backColor\":" + (color ? QByteArray::number(*color) : QByteArray("null")) + '}';
+    return JsonObject({{"column", QByteArray::number(cell.column.Value())},
+                       {"row", QByteArray::number(cell.row.Value())},
+                       {"text", JsonText(text)},
+                       {"type", checkBox ? "\"checkbox\"" : "\"text\""},
+                       {"bold", JsonFlag(bold)},
+                       {"backColor", color ? QByteArray::number(*color) : QByteArray("null")}});
 }
 
 QByteArray Cells(const Sheet& sheet)
@@ -75,7 +64,7 @@ QByteArray Cells(const Sheet& sheet)
                 cells.append(cell);
         }
     }
-    return cells.isEmpty() ? QByteArray("[]") : "[\n" + cells.join(",\n") + "\n]";
+    return JsonLines(cells);
 }
 
 } // namespace
@@ -84,7 +73,7 @@ QByteArray GridJson(const Sheet& sheet, int orientation, bool transposed)
 {
     return "{\"columns\":" + QByteArray::number(sheet.ColumnCount()) +
            ",\"rows\":" + QByteArray::number(sheet.RowCount()) + ",\"orientation\":" + QByteArray::number(orientation) +
-           ",\"transposed\":" + Flag(transposed) + ",\n\"columnWidths\":" + Widths(sheet) +
+           ",\"transposed\":" + JsonFlag(transposed) + ",\n\"columnWidths\":" + Widths(sheet) +
            ",\n\"hiddenColumns\":" + Hidden<Column>(sheet, sheet.ColumnCount()) +
            ",\n\"hiddenRows\":" + Hidden<Row>(sheet, sheet.RowCount()) + RowOrderJson(sheet.Rows()) +
            ",\n\"cells\":" + Cells(sheet) + "}\n";

@@ -9,12 +9,16 @@ QString HelpText()
   schedhost [FILE.xml] [options]         opens a window on a schedule, or on your copy of a sample
   schedhost dump FILE.xml [options]      prints the grid as JSON
   schedhost render FILE.xml... [options] writes it as a picture, PDF, workbook, web page or text
+  schedhost template FILE.xml            prints a template as it is saved
+  schedhost catalogue LIST.xml CATEGORIES.xml FOLDER
+                                         prints the templates that a host lists as JSON
+  schedhost find PATTERN                 prints the files that match, such as 'templates/*.xml', as JSON
 
-Options:
+Options; template, catalogue and find take the language only:
   --view schedule|selector   which view loads the file (schedule)
   --select-all               selector view: every check box starts ticked
   --messages FILE            appends each message between tool and host to a file, one XML line each
-  --language en|de|fr        language of the tool (en)
+  --language en|de|fr        language of the tool and of messages (en)
   --palette desktop|light|dark
                              colours (desktop); dump shows none
   -h, --help                 this text
@@ -45,7 +49,8 @@ For dump and render, done after loading in this order; columns and rows are numb
 The window saves into the file that it shows; dump and render never change it.
 
 Exit codes: 0 done, 1 a file could not be loaded or written, or the view did not allow it, 2 wrong usage. When render
-fails with one file or output, it goes on with the others.
+fails with one file or output, it goes on with the others. catalogue lists templates whose files cannot be
+read, too; what is reported of them goes to standard error.
 )");
 }
 

@@ -25,4 +25,9 @@ QString LanguageModule::Reply() const
     return m_handle > 0 ? QString::number(m_handle) : QString();
 }
 
+void LanguageModule::Use() const
+{
+    ComponentFactory().UseResourceModule(m_handle);
+}
+
 } // namespace schedules::host

@@ -16,6 +16,9 @@ public:
     /// What a tool is told that asks for the module: its handle as decimal text.
     QString Reply() const;
 
+    /// Gives the component these texts at once, for what of it asks for none.
+    void Use() const;
+
 private:
     int m_handle;
 };

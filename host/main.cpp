@@ -8,6 +8,7 @@
 #include <QApplication>
 
 #include <cstdio>
+#include <memory>
 
 namespace schedules::host {
 
@@ -28,15 +29,29 @@ int Run(const CommandLine& commandLine)
         return RunDump(commandLine);
     case Form::Render:
         return RunRender(commandLine);
+    case Form::Template:
+        return RunTemplate(commandLine);
+    case Form::Catalogue:
+        return RunCatalogue(commandLine);
+    case Form::Find:
+        return RunFind(commandLine);
     default:
         return RunWindow(commandLine);
     }
 }
 
+/// What shows and draws nothing works on any platform, and starts sooner without one.
+std::unique_ptr<QCoreApplication> Application(Form form, int& argc, char** argv)
+{
+    if (form == Form::Template || form == Form::Catalogue || form == Form::Find)
+        return std::make_unique<QCoreApplication>(argc, argv);
+    return std::make_unique<QApplication>(argc, argv);
+}
+
 int RunApplication(const CommandLine& commandLine, int argc, char** argv)
 {
     ChoosePlatform(commandLine.form);
-    QApplication application(argc, argv);
+    const auto application = Application(commandLine.form, argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("schedhost"));
     QCoreApplication::setApplicationVersion(ComponentFactory().Version());
     try {

@@ -23,7 +23,7 @@ QString Drawn(const MessageForm& form)
 
 } // namespace
 
-TEST(MessageTableOf, TheScheduleViewIsComplete)
+TEST(MessageTableOf, TheComponentIsComplete)
 {
     QStringList drawn;
     for (const auto& form : MessageTable())
@@ -33,12 +33,21 @@ TEST(MessageTableOf, TheScheduleViewIsComplete)
               "ContinueButton kind 1, codes 8 9, to owner, (4, SelectedTags)\n"
               "ErrorMessage kind 1, codes 20 9, to Framework, (2, ErrorDescription), (2, ErrorSource), "
               "(3, ErrorNumber), (2, ProcName)\n"
+              "GETBUILDERPATH kind 2, codes 0 0, to owner, (2, Caller)\n"
+              "GETCURRENTSCHEDTEMPLATE kind 2, codes 0 0, to owner\n"
               "GetResourceModule kind 2, codes 0 3, to owner\n"
+              "GETTEMPLATECATEGORIES kind 2, codes 0 0, to owner\n"
+              "GETTEMPLATELIST kind 2, codes 0 0, to owner, (2, Caller)\n"
+              "INITIALIZESCHEDOPTIONS kind 2, codes 0 0, to owner, (2, Caller)\n"
               "InitializeSchedule kind 2, codes 0 0, to owner, (2, Caller)\n"
               "PrintSelections kind 1, codes 8 9, to owner, (4, SelectedTags), (2, BuilderPdsg)\n"
               "ProcessSubscriberEvent kind 2, codes 8 0, to owner, (2, EventObjectName), (2, ContextID), (2, Form)\n"
+              "REMOVECONFIGENTRY kind 2, codes 0 0, to owner, (2, TemplateFile)\n"
+              "SETCURRENTSCHEDTEMPLATE kind 2, codes 0 0, to owner, (4, TemplateXML), (2, TemplateFile)\n"
               "ShowOptions kind 1, codes 8 9, to owner, (2, BuilderPdsg)\n"
               "UnloadSchedule kind 1, codes 8 9, to owner, (8, Cancel)\n"
+              "UnloadScheduleOptions kind 1, codes 8 9, to owner, (8, Cancel)\n"
+              "UPDATESCHEDCONFIG kind 2, codes 0 0, to owner, (4, ConfigXML)\n"
               "UpdateTagScheduleData kind 1, codes 8 9, to owner, (2, BuilderPdsg), (4, ScheduleXml)");
 }
 

@@ -1,6 +1,7 @@
 #include "host/CommandLine.h"
 
 #include <gtest/gtest.h>
+#include <string_view>
 
 namespace schedules::host {
 
@@ -101,6 +102,53 @@ TEST(CommandLine, AnOptionOfTheOtherViewIsRefused)
               "--save does not belong to the selector view");
 }
 
+TEST(CommandLine, TemplateTakesAFileAndALanguage)
+{
+    EXPECT_EQ(Parsed({"template", "a.xml", "--language", "de"}),
+              (CommandLine{.form = Form::Template, .files = {"a.xml"}, .language = "de"}));
+    EXPECT_EQ(Refused({"template"}), "a file is missing");
+    EXPECT_EQ(Refused({"template", "a.xml", "b.xml"}), "one file at a time, not also 'b.xml'");
+    EXPECT_EQ(Refused({"template", ""}), "the file name is empty");
+}
+
+TEST(CommandLine, CatalogueTakesTwoListsAFolderAndALanguage)
+{
+    EXPECT_EQ(Parsed({"catalogue", "l.xml", "c.xml", "folder", "--language", "fr"}),
+              (CommandLine{.form = Form::Catalogue, .files = {"l.xml", "c.xml", "folder"}, .language = "fr"}));
+    EXPECT_EQ(Parsed({"catalogue", "l.xml", "c.xml", ""}).files, (QStringList{"l.xml", "c.xml", ""}));
+    const QString needed = "catalogue takes a list of templates, a list of categories, and a folder";
+    EXPECT_EQ(Refused({"catalogue"}), needed);
+    EXPECT_EQ(Refused({"catalogue", "l.xml", "c.xml"}), needed);
+    EXPECT_EQ(Refused({"catalogue", "l.xml", "c.xml", "folder", "more"}), needed);
+    EXPECT_EQ(Refused({"catalogue", "", "c.xml", "folder"}), "the file name is empty");
+    EXPECT_EQ(Refused({"catalogue", "l.xml", "", "folder"}), "the file name is empty");
+}
+
+TEST(CommandLine, FindTakesAPatternAndALanguage)
+{
+    EXPECT_EQ(Parsed({"find", "a/*.xml", "--language", "de"}),
+              (CommandLine{.form = Form::Find, .files = {"a/*.xml"}, .language = "de"}));
+    EXPECT_EQ(Parsed({"find", ""}).files, QStringList{""});
+    const QString needed = "find takes one pattern, in quotes if a shell would expand it";
+    EXPECT_EQ(Refused({"find"}), needed);
+    EXPECT_EQ(Refused({"find", "a", "b"}), needed);
+}
+
+TEST(CommandLine, WhatShowsNoTableTakesNoOptionOfOne)
+{
+    const QList<QStringList> commands{{"template", "a.xml"}, {"catalogue", "l", "c", "f"}, {"find", "a"}};
+    for (const QStringList& command : commands) {
+        for (const char* option : {"--messages", "--palette", "--edit", "--png"}) {
+            const QString value = option == std::string_view("--palette") ? "dark" : "1";
+            EXPECT_EQ(Refused(command + QStringList{option, value}),
+                      QStringLiteral("%1 does not belong to this command").arg(option));
+        }
+        for (const char* option : {"--select-all", "--transpose"})
+            EXPECT_EQ(Refused(command + QStringList{option}),
+                      QStringLiteral("%1 does not belong to this command").arg(option));
+    }
+}
+
 TEST(CommandLine, OptionsMayComeFirst)
 {
     EXPECT_EQ(Parsed({"--transpose", "dump", "a.xml"}),
@@ -111,6 +159,7 @@ TEST(CommandLine, AFileMayBeNamedLikeACommandOrAnOption)
 {
     EXPECT_EQ(Parsed({"dump", "dump"}), (CommandLine{.form = Form::Dump, .files = {"dump"}}));
     EXPECT_EQ(Parsed({"./dump"}), (CommandLine{.files = {"./dump"}}));
+    EXPECT_EQ(Parsed({"./template"}), (CommandLine{.files = {"./template"}}));
     EXPECT_EQ(Parsed({"dump", "--", "--odd"}), (CommandLine{.form = Form::Dump, .files = {"--odd"}}));
 }
 
@@ -178,6 +227,13 @@ TEST(CommandLine, HelpNamesEveryOption)
           "--tick", "--sort",       "--continue",  "--save", "--palette", "--help",     "--version",  "--pdf",
           "--xls",  "--xlsx",       "--csv",       "--html", "--out",     "--as",       "--paper",    "--plain-print"})
         EXPECT_TRUE(HelpText().contains(QLatin1String(option))) << option;
+}
+
+TEST(CommandLine, HelpNamesEveryCommand)
+{
+    for (const char* command : {"dump FILE.xml", "render FILE.xml", "template FILE.xml",
+                                "catalogue LIST.xml CATEGORIES.xml FOLDER", "find PATTERN"})
+        EXPECT_TRUE(HelpText().contains(QStringLiteral("\n  schedhost %1").arg(command))) << command;
 }
 
 } // namespace schedules::host

@@ -43,6 +43,18 @@ TEST(ConsoleUserInterface, AFailureThatWasTakenIsForgotten)
     EXPECT_EQ(user.TakeFailure(), QStringLiteral("second"));
 }
 
+TEST(ConsoleUserInterface, EveryBoxIsAReport)
+{
+    ConsoleUserInterface user;
+    EXPECT_EQ(user.TakeReports(), QStringList());
+    user.Show({.text = QStringLiteral("Type\nmismatch")});
+    user.Show({.text = QStringLiteral("50 %1"), .number = 3023, .subject = QStringLiteral("a.xml")});
+    user.Show({.text = QStringLiteral("No list."), .number = 1062});
+    EXPECT_EQ(user.TakeReports(), (QStringList{"Type mismatch", "a.xml: 50 %1 (3023)", "No list. (1062)"}));
+    EXPECT_EQ(user.TakeReports(), QStringList());
+    EXPECT_EQ(user.TakeFailure(), std::nullopt);
+}
+
 TEST(ConsoleUserInterface, QuestionsAreAnsweredWithNo)
 {
     ConsoleUserInterface user;

@@ -4,10 +4,33 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QXmlStreamReader>
+
+#include <algorithm>
 
 namespace schedules::host::testing {
 
 namespace {
+
+QStringList XmlFilesIn(const QString& root, const QString& folder)
+{
+    QStringList names;
+    for (const QString& name : QDir(root + '/' + folder).entryList({"*.xml"}, QDir::Files, QDir::Name))
+        names << folder + '/' + name;
+    return names;
+}
+
+QStringList CommittedIn(const QString& folder)
+{
+    return XmlFilesIn(QStringLiteral(SCHEDULES_SOURCE_DIR "/samples"), folder);
+}
+
+QByteArray ContentOf(const QString& fileName)
+{
+    QFile file(fileName);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(fileName);
+    return file.readAll();
+}
 
 struct Samples : HostProgram
 {
@@ -17,7 +40,61 @@ struct Samples : HostProgram
         EXPECT_EQ(run.exitCode, 0) << run.err.constData();
         return QJsonDocument::fromJson(run.out);
     }
+
+    /// Runs a script that makes samples on a copy of its tables.
+    void RunCopied(const QString& script)
+    {
+        const QDir source(Sample({}));
+        ASSERT_TRUE(QDir().mkpath(Path("tables")));
+        ASSERT_TRUE(QFile::copy(source.filePath(script), Path(script)));
+        for (const QString& name : QDir(source.filePath("tables")).entryList(QDir::Files))
+            ASSERT_TRUE(QFile::copy(source.filePath("tables/" + name), Path("tables/" + name)));
+        ASSERT_EQ(QProcess::execute("python3", {Path(script)}), 0);
+    }
+
+    void ExpectAsCommitted(const QString& folder)
+    {
+        const QStringList committed = CommittedIn(folder);
+        EXPECT_EQ(XmlFilesIn(Path({}), folder), committed);
+        for (const QString& name : committed)
+            EXPECT_EQ(Read(name), ContentOf(Sample(name))) << qPrintable(name);
+    }
 };
+
+/// The catalogue of the samples as it is printed.
+struct SampleCatalogue : Samples
+{
+    QJsonArray Printed()
+    {
+        const Outcome run = Schedhost(
+            {"catalogue", Sample("lists/template-list.xml"), Sample("lists/category-list.xml"), Sample("templates")});
+        EXPECT_EQ(run.exitCode, 0);
+        EXPECT_EQ(run.err, "");
+        return QJsonDocument::fromJson(run.out).array();
+    }
+};
+
+/// A line for every start of an element, with its attributes in their order, for every end, and for every text but
+/// layout.
+QStringList Drawn(const QByteArray& xml)
+{
+    QStringList lines;
+    QXmlStreamReader reader(xml);
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (reader.isStartElement()) {
+            lines << reader.name().toString();
+            for (const auto& attribute : reader.attributes())
+                lines.last() += QStringLiteral(" %1='%2'").arg(attribute.qualifiedName(), attribute.value());
+        } else if (reader.isEndElement()) {
+            lines << "/";
+        } else if (reader.isCharacters() && !reader.isWhitespace()) {
+            lines << reader.text().toString();
+        }
+    }
+    EXPECT_FALSE(reader.hasError()) << qPrintable(reader.errorString());
+    return lines;
+}
 
 QJsonArray CellsOf(const QJsonDocument& dumped)
 {
@@ -44,24 +121,20 @@ bool HasScript(const QJsonDocument& dumped, QChar::Script script)
 
 } // namespace
 
-TEST_F(Samples, AreWhatTheScriptMakesOfTheTables)
+TEST_F(Samples, SchedulesAreWhatTheScriptMakesOfTheTables)
 {
-    const QDir source(QStringLiteral(SCHEDULES_SOURCE_DIR "/samples"));
-    ASSERT_TRUE(QDir().mkpath(Path(QStringLiteral("tables"))));
-    ASSERT_TRUE(
-        QFile::copy(source.filePath(QStringLiteral("make_samples.py")), Path(QStringLiteral("make_samples.py"))));
-    const QDir tables(source.filePath(QStringLiteral("tables")));
-    for (const QString& name : tables.entryList(QDir::Files))
-        ASSERT_TRUE(QFile::copy(tables.filePath(name), Path(QStringLiteral("tables/") + name)));
+    ASSERT_NO_FATAL_FAILURE(RunCopied("make_samples.py"));
+    EXPECT_EQ(CommittedIn("."), (QStringList{"./air-handling.xml", "./pumps.xml", "./selection.xml", "./valves.xml"}));
+    ExpectAsCommitted(".");
+}
 
-    ASSERT_EQ(QProcess::execute(QStringLiteral("python3"), {Path(QStringLiteral("make_samples.py"))}), 0);
-    const QStringList samples = source.entryList({"*.xml"}, QDir::Files, QDir::Name);
-    EXPECT_EQ(samples, (QStringList{"air-handling.xml", "pumps.xml", "selection.xml", "valves.xml"}));
-    for (const QString& name : samples) {
-        QFile committed(source.filePath(name));
-        ASSERT_TRUE(committed.open(QIODevice::ReadOnly));
-        EXPECT_EQ(Read(name), committed.readAll()) << qPrintable(name);
-    }
+TEST_F(Samples, TemplatesAndListsAreWhatTheScriptMakesOfTheTables)
+{
+    ASSERT_NO_FATAL_FAILURE(RunCopied("make_templates.py"));
+    EXPECT_EQ(CommittedIn("lists"), (QStringList{"lists/category-list.xml", "lists/template-list.xml"}));
+    EXPECT_GE(CommittedIn("templates").size(), 12);
+    ExpectAsCommitted("lists");
+    ExpectAsCommitted("templates");
 }
 
 TEST_F(Samples, PumpsHaveFortyTagsInGroups)
@@ -106,9 +179,57 @@ TEST_F(Samples, TheSelectionHasATagPerColumn)
     }
 }
 
+TEST_F(Samples, EveryTemplateIsPrintedWithTheElementsAndAttributesOfItsFile)
+{
+    for (const QString& name : CommittedIn("templates")) {
+        const Outcome run = Schedhost({"template", Sample(name)});
+        EXPECT_EQ(run.exitCode, 0) << qPrintable(name);
+        EXPECT_EQ(run.err, "") << qPrintable(name);
+        EXPECT_EQ(Drawn(run.out), Drawn(ContentOf(Sample(name)))) << qPrintable(name);
+    }
+}
+
+TEST_F(SampleCatalogue, HasEveryTemplateThatThereIs)
+{
+    QStringList files;
+    for (const QJsonValue listed : Printed()) {
+        EXPECT_EQ(listed["id"].toInt(), files.size() + 1);
+        EXPECT_FALSE(listed["groups"].toArray().isEmpty()) << qPrintable(listed["name"].toString());
+        files << "templates/" + listed["filename"].toString();
+    }
+    files.sort();
+    EXPECT_EQ(files, CommittedIn("templates"));
+}
+
+TEST_F(SampleCatalogue, EveryCategoryHasTemplatesAndOneDefault)
+{
+    QHash<QString, int> defaults;
+    for (const QJsonValue listed : Printed()) {
+        EXPECT_FALSE(listed["categoryDisplayName"].toString().isEmpty()) << qPrintable(listed["name"].toString());
+        defaults[listed["category"].toString()] += listed["defaultForCategory"].toBool() ? 1 : 0;
+    }
+    EXPECT_EQ(defaults.size(), 6);
+    for (auto category = defaults.cbegin(); category != defaults.cend(); ++category)
+        EXPECT_EQ(category.value(), 1) << qPrintable(category.key());
+}
+
+TEST_F(SampleCatalogue, HasAProtectedTemplateAndADefaultTemplate)
+{
+    const QJsonArray catalogue = Printed();
+    for (const char* flag : {"protected", "isDefaultTemplate"}) {
+        const auto isSet = [flag](const QJsonValue& listed) { return listed[QLatin1String(flag)].toBool(); };
+        EXPECT_TRUE(std::any_of(catalogue.begin(), catalogue.end(), isSet)) << flag;
+        EXPECT_FALSE(std::all_of(catalogue.begin(), catalogue.end(), isSet)) << flag;
+    }
+}
+
 TEST_F(Samples, LieBesideTheProgram)
 {
-    EXPECT_TRUE(QFile::exists(QStringLiteral(SCHEDULES_BIN_DIR "/samples/pumps.xml")));
+    const QString beside = QStringLiteral(SCHEDULES_BIN_DIR "/samples");
+    for (const char* folder : {".", "templates", "lists"}) {
+        for (const QString& name : CommittedIn(QLatin1String(folder)))
+            EXPECT_EQ(ContentOf(beside + '/' + name), ContentOf(Sample(name))) << qPrintable(name);
+    }
 }
 
 } // namespace schedules::host::testing

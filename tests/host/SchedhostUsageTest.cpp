@@ -8,6 +8,11 @@ TEST_F(SchedhostUsage, WrongUsageIsExitCode2AndOneLine)
 {
     const QList<QStringList> wrong{{"dump"},
                                    {"render"},
+                                   {"template"},
+                                   {"template", "a", "--transpose"},
+                                   {"catalogue", "a", "b"},
+                                   {"find"},
+                                   {"find", "a", "b"},
                                    {"dump", "a", "b"},
                                    {"dump", "a", "--view", "x"},
                                    {"--odd"},

@@ -117,6 +117,15 @@ TEST(Layers, EachFolderIncludesOnlyWhatItMay)
         EXPECT_TRUE(Allowed(include)) << Told(include);
 }
 
+TEST(Layers, NoHostWritesWhatIsForTheComponentAlone)
+{
+    for (const Include& include : OwnIncludes()) {
+        if (include.layer == "host") {
+            EXPECT_NE(include.header, "model/Inside.h") << Told(include);
+        }
+    }
+}
+
 TEST(Layers, EveryFolderOfSourcesIsInTheTable)
 {
     for (const QString& file : SourcesBelow("src"))
