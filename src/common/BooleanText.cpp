@@ -19,9 +19,10 @@ bool BooleanOf(const QString& text)
         return true;
     if (word.compare(QLatin1String("false"), Qt::CaseInsensitive) == 0)
         return false;
+    const bool hasOtherSpaces = word.trimmed().size() != word.size(); // the conversion would take them for blanks
     bool isNumber = false;
     const double number = word.toDouble(&isNumber);
-    if (!isNumber || !std::isfinite(number))
+    if (!isNumber || !std::isfinite(number) || hasOtherSpaces)
         throw Error(kTypeMismatchError, QStringLiteral("\"%1\" is neither true nor false.").arg(text));
     return number != 0;
 }

@@ -50,9 +50,9 @@ public:
     /// `index` is at most the size.
     Node& Insert(std::size_t index, Element element)
     {
+        auto node = std::make_unique<Node>(std::move(element));
         if (m_pieces.empty())
             m_pieces.push_back(std::make_unique<Piece>());
-        auto node = std::make_unique<Node>(std::move(element));
         auto [piece, place] = Find(index);
         if (m_pieces[piece]->nodes.size() == kMostNodes) {
             Split(piece);
@@ -101,6 +101,9 @@ private:
     /// The piece, and the place in it; behind the last node for the size itself.
     std::pair<std::size_t, std::size_t> Find(std::size_t index) const
     {
+        const std::size_t inLast = m_pieces.back()->nodes.size();
+        if (index >= m_size - inLast) // where most are added, and where all are removed
+            return {m_pieces.size() - 1, index - (m_size - inLast)};
         std::size_t piece = 0;
         while (piece + 1 < m_pieces.size() && index >= m_pieces[piece]->nodes.size())
             index -= m_pieces[piece++]->nodes.size();
@@ -110,6 +113,7 @@ private:
     /// The latter half of a piece becomes one of its own.
     void Split(std::size_t index)
     {
+        m_pieces.reserve(m_pieces.size() + 1); // nothing must fail once nodes have moved
         auto latter = std::make_unique<Piece>();
         auto& nodes = m_pieces[index]->nodes;
         const auto middle = nodes.begin() + kMostNodes / 2;

@@ -1,11 +1,9 @@
 #include "common/XmlBytes.h"
 
-#include "common/XmlReader.h"
-
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QStringDecoder>
+#include <QStringConverter>
 
 #include <libxml/encoding.h>
 #include <libxml/tree.h>
@@ -41,19 +39,11 @@ private:
     xmlStructuredErrorFunc m_before;
 };
 
-/// Bytes that are UTF-16 or UTF-32 or start with a byte-order mark.
-std::optional<QByteArray> FromUnicode(const QByteArray& bytes, QStringConverter::Encoding encoding)
-{
-    QStringDecoder decoder(encoding, QStringConverter::Flag::Stateless); // else a cut-off end goes unnoticed
-    const QString text = decoder(bytes);
-    return decoder.hasError() ? std::nullopt : XmlUtf8(text);
-}
-
 /// The encoding that the declaration names; empty when it names none.
 QByteArray DeclaredEncoding(const QByteArray& bytes)
 {
     static const QRegularExpression kEncoding(
-        QStringLiteral(R"re(^<\?xml[^>]*?\sencoding\s*=\s*["']([A-Za-z0-9._-]+)["'])re"));
+        QStringLiteral(R"re(^<\?xml(?=\s)[^>]*?\sencoding\s*=\s*["']([A-Za-z0-9._-]+)["'])re"));
     constexpr qsizetype kLongestDeclaration = 1024;
     return kEncoding.match(QString::fromLatin1(bytes.left(kLongestDeclaration))).captured(1).toLatin1();
 }
@@ -75,14 +65,23 @@ std::optional<QByteArray> FromEncoding(const QByteArray& bytes, const QByteArray
     return QByteArray(reinterpret_cast<const char*>(xmlBufferContent(out.get())), xmlBufferLength(out.get()));
 }
 
-std::optional<QByteArray> Decoded(const QByteArray& bytes)
+/// The encoding that the first bytes show, or that the declaration names, or UTF-8.
+QByteArray EncodingOf(const QByteArray& bytes)
 {
     if (const auto encoding = QStringConverter::encodingForData(bytes, u'<'))
-        return FromUnicode(bytes, *encoding);
-    const QByteArray encoding = DeclaredEncoding(bytes);
-    if (!encoding.isEmpty() && encoding.compare("UTF-8", Qt::CaseInsensitive) != 0)
-        return FromEncoding(bytes, encoding);
-    return bytes.isValidUtf8() ? std::optional(bytes) : std::nullopt;
+        return QStringConverter::nameForEncoding(*encoding);
+    const QByteArray declared = DeclaredEncoding(bytes);
+    return declared.isEmpty() ? QByteArrayLiteral("UTF-8") : declared;
+}
+
+std::optional<QByteArray> Decoded(const QByteArray& bytes)
+{
+    const QByteArray encoding = EncodingOf(bytes);
+    const bool isUtf8 = encoding.compare("UTF-8", Qt::CaseInsensitive) == 0;
+    auto utf8 = isUtf8 ? std::optional(bytes) : FromEncoding(bytes, encoding);
+    // The library lets halves of pairs pass, and takes a null character for the end.
+    const bool isText = utf8 && utf8->isValidUtf8() && !utf8->contains('\0');
+    return isText ? std::move(utf8) : std::nullopt;
 }
 
 } // namespace

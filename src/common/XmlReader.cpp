@@ -1,5 +1,6 @@
 #include "common/XmlReader.h"
 
+#include "common/Utf8.h"
 #include "common/XmlBounds.h"
 
 #include <QStringEncoder>
@@ -46,14 +47,10 @@ XmlAttribute DeclarationAt(const xmlChar** fields)
     return {View(fields[0]), View(fields[1]), true, kDeclaration};
 }
 
-QString Text(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), std::ssize(utf8));
-}
-
 QString WrittenName(const XmlAttribute& attribute)
 {
-    return attribute.prefix.empty() ? Text(attribute.name) : Text(attribute.prefix) + u':' + Text(attribute.name);
+    return attribute.prefix.empty() ? FromUtf8(attribute.name)
+                                    : FromUtf8(attribute.prefix) + u':' + FromUtf8(attribute.name);
 }
 
 /// The names of the attributes of a well-formed tag, as they are written.
@@ -213,7 +210,7 @@ std::vector<XmlWrittenAttribute> WrittenAttributes(std::string_view document, co
 {
     std::vector<XmlWrittenAttribute> written;
     const auto add = [&written](const XmlAttribute& attribute) {
-        written.push_back({WrittenName(attribute), Text(attribute.value)});
+        written.push_back({WrittenName(attribute), FromUtf8(attribute.value)});
     };
     if (tag.declarations.empty()) {
         std::ranges::for_each(tag.attributes, add);
@@ -225,7 +222,7 @@ std::vector<XmlWrittenAttribute> WrittenAttributes(std::string_view document, co
     for (const std::string_view name : NamesIn(document.substr(tag.start))) {
         if (name != kDeclaration && !name.starts_with("xmlns:"))
             add(*attribute++);
-        else if (declaration != tag.declarations.end() && WrittenName(*declaration) == Text(name))
+        else if (declaration != tag.declarations.end() && WrittenName(*declaration) == FromUtf8(name))
             add(*declaration++); // else it declares the prefix "xml", of which the parser does not tell
     }
     return written;

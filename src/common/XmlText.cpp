@@ -4,7 +4,8 @@
 
 #include <algorithm>
 #include <array>
-#include <libxml/tree.h>
+#include <span>
+#include <utility>
 
 namespace schedules {
 
@@ -90,6 +91,24 @@ void AppendEscaped(std::u16string& xml, std::u16string_view text, bool inAttribu
     }
 }
 
+/// The first and the last of characters in a row.
+using Span = std::pair<char32_t, char32_t>;
+
+/// What a name may begin with, as the parser sees it; the library's own check knows only those of an older edition.
+constexpr Span kNameStarts[] = {{U'A', U'Z'},     {U'_', U'_'},     {U'a', U'z'},      {0x00C0, 0x00D6},
+                                {0x00D8, 0x00F6}, {0x00F8, 0x02FF}, {0x0370, 0x037D},  {0x037F, 0x1FFF},
+                                {0x200C, 0x200D}, {0x2070, 0x218F}, {0x2C00, 0x2FEF},  {0x3001, 0xD7FF},
+                                {0xF900, 0xFDCF}, {0xFDF0, 0xFFFD}, {0x10000, 0xEFFFF}};
+
+/// What may follow besides.
+constexpr Span kNameOthers[] = {{U'-', U'.'}, {U'0', U'9'}, {0x00B7, 0x00B7}, {0x0300, 0x036F}, {0x203F, 0x2040}};
+
+bool IsIn(std::span<const Span> spans, char32_t character)
+{
+    return std::ranges::any_of(
+        spans, [character](const Span& span) { return span.first <= character && character <= span.second; });
+}
+
 std::u16string_view View(QStringView text)
 {
     return {text.utf16(), static_cast<std::size_t>(text.size())};
@@ -99,8 +118,11 @@ std::u16string_view View(QStringView text)
 
 bool IsXmlName(const QString& text)
 {
-    const QByteArray utf8 = text.toUtf8();
-    return !utf8.contains('\0') && xmlValidateNCName(reinterpret_cast<const xmlChar*>(utf8.constData()), 0) == 0;
+    const auto characters = text.toUcs4();
+    return text.isValidUtf16() && !characters.isEmpty() && IsIn(kNameStarts, characters.front()) &&
+           std::ranges::all_of(characters, [](char32_t character) {
+               return IsIn(kNameStarts, character) || IsIn(kNameOthers, character);
+           });
 }
 
 void AppendXmlText(std::u16string& xml, QStringView text)

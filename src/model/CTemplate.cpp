@@ -95,8 +95,11 @@ bool CTemplate::XMLToObject()
         const auto text = ReadTemplateFile(PathOf(m_filePath, m_filename));
         if (!text)
             return false;
+        m_fileMark = text->mark;
+        m_readInPart = true;
         try {
             Read(*text);
+            m_readInPart = false;
             m_loaded = m_loaded || text->found;
             return text->found;
         } catch (const Nameless& nameless) {
@@ -113,6 +116,12 @@ void CTemplate::Read(const TemplateText& text)
     m_groups.Clear();
     Fill(m_properties, text.attributes);
     Fill(m_groups, text.groups);
+}
+
+bool CTemplate::FileDiffers() const
+{
+    const auto mark = FileMark(PathOf(m_filePath, m_filename));
+    return mark && mark != m_fileMark;
 }
 
 bool CTemplate::IsDefaultTemplate() const

@@ -72,6 +72,13 @@ public:
     /// reported, and then what stands before it has been read.
     bool XMLToObject();
 
+    /// Whether the last reading came only as far as something without a name: writing the template would lose what
+    /// stands behind it.
+    bool ReadInPart() const { return m_readInPart; }
+
+    /// Whether there is a file now that holds something else than what was read.
+    bool FileDiffers() const;
+
     /// Whether it has been read and belongs to no category by its own account: its file says none. What the host's list
     /// calls a default does not count here.
     bool IsDefaultTemplate() const;
@@ -84,6 +91,8 @@ private:
 
     UserInterface& m_userInterface;
     bool m_loaded = false;
+    bool m_readInPart = false;
+    std::optional<std::size_t> m_fileMark;
     MemberId m_id;
     QString m_name;
     QString m_filePath;

@@ -2,17 +2,13 @@
 
 #include "common/Blanks.h"
 #include "common/PlainXml.h"
+#include "common/Utf8.h"
 
 #include <algorithm>
 
 namespace schedules {
 
 namespace {
-
-QString Decoded(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), std::ssize(utf8));
-}
 
 class ListHandler : public XmlHandler
 {
@@ -26,7 +22,7 @@ public:
         HostListEntry& entry = entries.emplace_back();
         for (const XmlAttribute& attribute : tag.attributes) {
             if (!attribute.inNamespace)
-                entry.Add(Decoded(attribute.name), Decoded(attribute.value));
+                entry.Add(FromUtf8(attribute.name), FromUtf8(attribute.value));
         }
     }
 

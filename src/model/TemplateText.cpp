@@ -3,6 +3,7 @@
 #include "common/Blanks.h"
 #include "common/FilePath.h"
 #include "common/PlainXml.h"
+#include "common/Utf8.h"
 #include "common/XmlBytes.h"
 
 #include <algorithm>
@@ -13,11 +14,6 @@ namespace schedules {
 namespace {
 
 constexpr qint64 kMostBytes = 64 * 1024 * 1024;
-
-QString Decoded(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), std::ssize(utf8));
-}
 
 bool IsLayout(std::string_view text)
 {
@@ -42,7 +38,7 @@ public:
     {
         Slot& slot = m_slots[std::hash<std::string_view>()(utf8) % kSlots];
         if (slot.utf8 != utf8 || slot.text.isNull())
-            slot = {std::string(utf8), Decoded(utf8)};
+            slot = {std::string(utf8), FromUtf8(utf8)};
         return slot.text;
     }
 
@@ -94,7 +90,7 @@ public:
     {
         EndRun();
         if (m_open.back() == Role::Location) {
-            m_text.groups.back().items.back().location = TrimmedOfBlanks(Decoded(m_location));
+            m_text.groups.back().items.back().location = TrimmedOfBlanks(FromUtf8(m_location));
             m_inLocation = false;
         }
         m_open.pop_back();
@@ -145,7 +141,7 @@ private:
     QString ValueOf(const XmlAttribute& attribute)
     {
         constexpr std::size_t kShort = 8; // flags and the like
-        return attribute.value.size() <= kShort ? m_recent.Text(attribute.value) : Decoded(attribute.value);
+        return attribute.value.size() <= kShort ? m_recent.Text(attribute.value) : FromUtf8(attribute.value);
     }
 
     /// A run of text ends wherever markup stands. Runs of layout alone are no text.
@@ -166,6 +162,16 @@ private:
     std::string m_run;
 };
 
+std::string_view View(const QByteArray& utf8)
+{
+    return {utf8.constData(), static_cast<std::size_t>(utf8.size())};
+}
+
+std::size_t MarkOf(const QByteArray& utf8)
+{
+    return std::hash<std::string_view>()(View(utf8));
+}
+
 } // namespace
 
 QString NameIn(const TemplateText::Attributes& attributes)
@@ -179,9 +185,17 @@ std::optional<TemplateText> ReadTemplateFile(const QString& path)
     const auto utf8 = XmlUtf8FromFile(PlatformPath(path), kMostBytes);
     if (!utf8)
         return std::nullopt;
-    const std::string_view document(utf8->constData(), static_cast<std::size_t>(utf8->size()));
-    auto handler = ReadEitherWay<TemplateHandler>(*utf8, document);
-    return handler ? std::optional(std::move(handler->Read())) : std::nullopt;
+    auto handler = ReadEitherWay<TemplateHandler>(*utf8, View(*utf8));
+    if (!handler)
+        return std::nullopt;
+    handler->Read().mark = MarkOf(*utf8);
+    return std::move(handler->Read());
+}
+
+std::optional<std::size_t> FileMark(const QString& path)
+{
+    const auto utf8 = XmlUtf8FromFile(PlatformPath(path), kMostBytes);
+    return utf8 ? std::optional(MarkOf(*utf8)) : std::nullopt;
 }
 
 } // namespace schedules

@@ -26,7 +26,8 @@ struct TemplateText
         std::vector<Item> items;
     };
 
-    bool found = false; ///< whether there is a template in the document
+    bool found = false;   ///< whether there is a template in the document
+    std::size_t mark = 0; ///< the file's mark, see `FileMark`
     Attributes attributes;
     std::vector<Group> groups;
 };
@@ -38,5 +39,8 @@ QString NameIn(const TemplateText::Attributes& attributes);
 /// read, has more than 64 MiB, is not well-formed or out of the bounds of `ReadXml`. Both separators of folders can
 /// stand in the name.
 std::optional<TemplateText> ReadTemplateFile(const QString& path);
+
+/// A number that changes when the content of a file changes; nothing when it cannot be read.
+std::optional<std::size_t> FileMark(const QString& path);
 
 } // namespace schedules

@@ -117,3 +117,51 @@ TEST(PlainXml, LeavesDeepNestingLongTagsAndLongNamesToTheFullParser)
     EXPECT_EQ(ToldBy(ReadPlainXml, "<a x='" + QByteArray(20'000, 'v') + "'/>"), "refused");
     EXPECT_EQ(ToldBy(ReadPlainXml, "<" + QByteArray(65, 'n') + "/>"), "refused");
 }
+
+namespace {
+
+/// Remembers what it was made of, and is told by which way it was read.
+class Labelled : public Recorder
+{
+public:
+    explicit Labelled(const char* label, int number = 0)
+    {
+        told = std::string(label) + std::to_string(number) + ":";
+        ++made;
+    }
+
+    static inline int made = 0;
+};
+
+/// What a handler of that label makes of a document, and how many handlers it took.
+std::string ReadInEitherWay(const QByteArray& document)
+{
+    Labelled::made = 0;
+    const auto read = ReadEitherWay<Labelled>(document, "pumps", 7);
+    return (read ? read->told : "nothing") + " " + std::to_string(Labelled::made);
+}
+
+} // namespace
+
+TEST(ReadEitherWay, ReadsPlainDocumentsOnce)
+{
+    EXPECT_EQ(ReadInEitherWay("<a x='1'>t</a>"), "pumps7:<a x=1|t> 1");
+}
+
+TEST(ReadEitherWay, StartsAnewWithTheSameArgumentsWhenADocumentIsNotPlain)
+{
+    EXPECT_EQ(ReadInEitherWay("<a x='1'>t<b>&#65;</b></a>"), "pumps7:<a x=1|t<b|A>> 2");
+    EXPECT_EQ(ReadInEitherWay("<!-- c --><a/>"), "pumps7:*<a> 2");
+}
+
+TEST(ReadEitherWay, GivesNothingForWhatTheFullParserRefuses)
+{
+    EXPECT_EQ(ReadInEitherWay("<a>"), "nothing 2");
+    EXPECT_EQ(ReadInEitherWay(""), "nothing 2");
+}
+
+TEST(ReadEitherWay, TakesHandlersWithoutArguments)
+{
+    EXPECT_EQ(ReadEitherWay<Recorder>("<a/>")->told, "<a>");
+    EXPECT_EQ(ReadEitherWay<Labelled>("<a/>", "x")->told, "x0:<a>");
+}

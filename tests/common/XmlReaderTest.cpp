@@ -66,6 +66,79 @@ TEST(XmlReader, TellsNamespacesApart)
     EXPECT_EQ(Told("<a xml:space='preserve'/>"), "<a space{}=preserve>");
 }
 
+namespace {
+
+/// Writes down names as the parser tells them: of the attributes and, behind ";", of the declarations.
+class Prefixes : public Recorder
+{
+public:
+    void StartElement(const XmlStartTag& tag) override
+    {
+        names += std::string(tag.name) + ":" + Names(tag.attributes) + ";" + Names(tag.declarations) + "\n";
+    }
+    void EndElement(std::size_t) override {}
+
+    std::string names;
+
+private:
+    static std::string Names(std::span<const XmlAttribute> attributes)
+    {
+        std::string names;
+        for (const XmlAttribute& attribute : attributes)
+            names += " " + std::string(attribute.prefix) + "|" + std::string(attribute.name) + "=" +
+                     std::string(attribute.value);
+        return names;
+    }
+};
+
+/// Takes the text of CDATA sections apart from other nodes.
+class CDataRecorder : public Recorder
+{
+public:
+    void CData(std::string_view text) override { told += "[" + std::string(text) + "]"; }
+};
+
+std::string CDataIn(const QByteArray& document)
+{
+    CDataRecorder recorder;
+    return ReadXml(document, recorder) ? recorder.told : "refused";
+}
+
+} // namespace
+
+TEST(XmlReader, TellsPrefixesAndDeclarations)
+{
+    Prefixes handler;
+    ASSERT_TRUE(ReadXml("<a xmlns='u' x='1' xmlns:p='v' p:y='2'><p:b xml:lang='de'/><c xmlns=''/><d/></a>", handler));
+    EXPECT_EQ(handler.names, "a: |x=1 p|y=2; |xmlns=u xmlns|p=v\n"
+                             "b: xml|lang=de;\n"
+                             "c:; |xmlns=\n"
+                             "d:;\n");
+}
+
+TEST(XmlReader, TellsTheTextOfCDataToThoseWhoWantIt)
+{
+    EXPECT_EQ(CDataIn("<a>x<![CDATA[<b>&amp;]] ]]>y<!-- c --></a>"), "<a|x[<b>&amp;]] ]y*>");
+    EXPECT_EQ(CDataIn("<a><![CDATA[1]]><![CDATA[2\r\n3]]></a>"), "<a[1][2\n3]>");
+    EXPECT_EQ(CDataIn("<a><![CDATA[Насос 水 𝄞]]></a>"), "<a[Насос 水 𝄞]>");
+}
+
+TEST(XmlReader, ALongCDataArrivesWhole)
+{
+    const QByteArray text(9'000'000, 'x');
+    EXPECT_TRUE(CDataIn("<a><![CDATA[" + text + "]]></a>") == "<a[" + text.toStdString() + "]>");
+}
+
+TEST(XmlReader, AnExceptionOfTheHandlerForCDataComesOut)
+{
+    struct Throwing : Recorder
+    {
+        void CData(std::string_view) override { throw std::runtime_error("enough"); }
+    };
+    Throwing handler;
+    EXPECT_THROW(ReadXml("<a><![CDATA[x]]></a>", handler), std::runtime_error);
+}
+
 TEST(XmlReader, ADeclaredEncodingOfATextInMemoryIsIgnored)
 {
     for (const char* encoding : {"UTF-8", "UTF-16", "ISO-8859-1", "windows-1251", "nonsense"}) {
