@@ -1,6 +1,7 @@
 #include "component/Component.h"
 
 #include "common/modResource.h"
+#include "tools/options/ctlSchedOptions.h"
 #include "tools/schedule/ctlSchedule.h"
 
 #include <array>
@@ -21,7 +22,8 @@ QObject* Created(UserInterface* userInterface)
     return new Control(userInterface);
 }
 
-constexpr std::array kTools{Tool{"ctlSchedule", Created<ctlSchedule>}};
+constexpr std::array kTools{Tool{"ctlSchedule", Created<ctlSchedule>},
+                            Tool{"ctlSchedOptions", Created<ctlSchedOptions>}};
 
 } // namespace
 
