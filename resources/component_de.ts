@@ -132,5 +132,77 @@ the other component_*.ts files; English itself needs none.
         <source>%1 exists already. Replace it?</source>
         <translation>%1 ist schon vorhanden. Ersetzen?</translation>
     </message>
+    <message>
+        <source>Full file name</source>
+        <translation>Vollständiger Dateiname</translation>
+    </message>
+    <message>
+        <source>Choose a category.</source>
+        <translation>Wählen Sie eine Kategorie.</translation>
+    </message>
+    <message>
+        <source>Enter a name.</source>
+        <translation>Geben Sie einen Namen ein.</translation>
+    </message>
+    <message>
+        <source>A name cannot be one or two dots alone.</source>
+        <translation>Ein Name kann nicht nur aus einem oder zwei Punkten bestehen.</translation>
+    </message>
+    <message>
+        <source>A name cannot contain a slash or a backslash.</source>
+        <translation>Ein Name kann weder / noch \ enthalten.</translation>
+    </message>
+    <message>
+        <source>The name contains a character that no file name can have.</source>
+        <translation>Der Name enthält ein Zeichen, das in keinem Dateinamen stehen kann.</translation>
+    </message>
+    <message>
+        <source>The name is too long for a file.</source>
+        <translation>Der Name ist zu lang für eine Datei.</translation>
+    </message>
+    <message>
+        <source>%1 exists already.</source>
+        <translation>%1 ist schon vorhanden.</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtern</translation>
+    </message>
+    <message>
+        <source>User-Defined Data Item:</source>
+        <translation>Benutzerdefiniertes Datenelement:</translation>
+    </message>
+    <message>
+        <source>Display Name:</source>
+        <translation>Anzeigename:</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>(*) Indicates user-defined data item</source>
+        <translation>(*) Benutzerdefiniertes Datenelement</translation>
+    </message>
+    <message>
+        <source>The file of this template could only be read in part. Saving it drops what could not be read. Save?</source>
+        <translation>Die Datei dieser Vorlage konnte nur teilweise gelesen werden. Beim Speichern geht verloren, was nicht gelesen werden konnte. Speichern?</translation>
+    </message>
+    <message>
+        <source>The file of this template was changed after it had been read. Saving it drops that change. Save?</source>
+        <translation>Die Datei dieser Vorlage wurde geändert, nachdem sie gelesen worden war. Beim Speichern geht diese Änderung verloren. Speichern?</translation>
+    </message>
+    <message>
+        <source>A file in the template folder cannot have this name.</source>
+        <translation>Eine Datei im Vorlagenordner kann diesen Namen nicht haben.</translation>
+    </message>
+    <message>
+        <source>There is a template of this name already, in a file of another name.</source>
+        <translation>Es gibt bereits eine Vorlage dieses Namens in einer Datei mit einem anderen Namen.</translation>
+    </message>
 </context>
 </TS>

@@ -132,5 +132,77 @@ the other component_*.ts files; English itself needs none.
         <source>%1 exists already. Replace it?</source>
         <translation>%1 existe déjà. Le remplacer ?</translation>
     </message>
+    <message>
+        <source>Full file name</source>
+        <translation>Nom complet du fichier</translation>
+    </message>
+    <message>
+        <source>Choose a category.</source>
+        <translation>Choisissez une catégorie.</translation>
+    </message>
+    <message>
+        <source>Enter a name.</source>
+        <translation>Saisissez un nom.</translation>
+    </message>
+    <message>
+        <source>A name cannot be one or two dots alone.</source>
+        <translation>Un nom ne peut se réduire à un ou deux points.</translation>
+    </message>
+    <message>
+        <source>A name cannot contain a slash or a backslash.</source>
+        <translation>Un nom ne peut contenir ni / ni \.</translation>
+    </message>
+    <message>
+        <source>The name contains a character that no file name can have.</source>
+        <translation>Le nom contient un caractère interdit dans un nom de fichier.</translation>
+    </message>
+    <message>
+        <source>The name is too long for a file.</source>
+        <translation>Le nom est trop long pour un fichier.</translation>
+    </message>
+    <message>
+        <source>%1 exists already.</source>
+        <translation>%1 existe déjà.</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtrer</translation>
+    </message>
+    <message>
+        <source>User-Defined Data Item:</source>
+        <translation>Élément de données personnalisé :</translation>
+    </message>
+    <message>
+        <source>Display Name:</source>
+        <translation>Nom affiché :</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Mettre à jour</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>(*) Indicates user-defined data item</source>
+        <translation>(*) Élément de données personnalisé</translation>
+    </message>
+    <message>
+        <source>The file of this template could only be read in part. Saving it drops what could not be read. Save?</source>
+        <translation>Le fichier de ce modèle n’a pu être lu qu’en partie. L’enregistrer supprime ce qui n’a pas pu être lu. Enregistrer ?</translation>
+    </message>
+    <message>
+        <source>The file of this template was changed after it had been read. Saving it drops that change. Save?</source>
+        <translation>Le fichier de ce modèle a été modifié après avoir été lu. L’enregistrer supprime cette modification. Enregistrer ?</translation>
+    </message>
+    <message>
+        <source>A file in the template folder cannot have this name.</source>
+        <translation>Un fichier du dossier des modèles ne peut pas porter ce nom.</translation>
+    </message>
+    <message>
+        <source>There is a template of this name already, in a file of another name.</source>
+        <translation>Il existe déjà un modèle de ce nom, dans un fichier d’un autre nom.</translation>
+    </message>
 </context>
 </TS>

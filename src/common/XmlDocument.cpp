@@ -39,6 +39,7 @@ struct Freeing
 
 using Parser = std::unique_ptr<xmlParserCtxt, Freeing<xmlFreeParserCtxt>>;
 using Buffer = std::unique_ptr<xmlBuffer, Freeing<xmlBufferFree>>;
+using LooseNode = std::unique_ptr<xmlNode, Freeing<xmlFreeNode>>;
 using XPathContext = std::unique_ptr<xmlXPathContext, Freeing<xmlXPathFreeContext>>;
 using XPathResult = std::unique_ptr<xmlXPathObject, Freeing<xmlXPathFreeObject>>;
 
@@ -123,6 +124,13 @@ bool HasChildren(Kind kind)
 bool IsLayout(xmlNode* node)
 {
     return node->type == XML_TEXT_NODE && xmlIsBlankNode(node);
+}
+
+/// Whether elements without a prefix would be in a namespace below this one.
+bool HasDefaultNamespace(xmlNode& node)
+{
+    const xmlNs* space = xmlSearchNs(node.doc, &node, nullptr);
+    return space && *space->href != 0;
 }
 
 /// What the document type declaration would let in is never read.
@@ -298,12 +306,23 @@ void XmlNode::SetText(const QString& text)
         xmlNodeAddContent(m_node, ToXml(content));
 }
 
-XmlNode XmlNode::AppendElement(const QString& name)
+void XmlNode::Rename(const QString& name)
+{
+    if (NodeKind() != Kind::Attribute)
+        Refuse(QStringLiteral("There is no attribute to take the name \"%1\".").arg(name));
+    xmlNodeSetName(m_node, ToXml(CheckedName(name)));
+}
+
+XmlNode XmlNode::AppendElement(const QString& name, std::initializer_list<NamedValue> attributes)
 {
     if (NodeKind() != Kind::Element)
         Refuse(QStringLiteral("There is no element to take the element \"%1\".").arg(name));
-    xmlNode* element = Made(xmlNewDocNode(m_node->doc, nullptr, ToXml(CheckedName(name)), nullptr));
-    return XmlNode(Made(xmlAddChild(m_node, element)));
+    LooseNode element(Made(xmlNewDocNode(m_node->doc, nullptr, ToXml(CheckedName(name)), nullptr)));
+    if (HasDefaultNamespace(*m_node))
+        Made(xmlNewNs(element.get(), ToXml(QByteArrayLiteral("")), nullptr)); // else it would be read into that one
+    for (const auto& [attribute, value] : attributes)
+        XmlNode(element.get()).SetAttribute(attribute, value);
+    return XmlNode(Made(xmlAddChild(m_node, element.release())));
 }
 
 QString XmlNode::ToText() const

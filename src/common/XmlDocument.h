@@ -3,7 +3,9 @@
 #include <QByteArray>
 #include <QString>
 
+#include <initializer_list>
 #include <memory>
+#include <utility>
 #include <vector>
 
 struct _xmlDoc;
@@ -69,8 +71,14 @@ public:
     /// Replaces all children of an element by a text; handles on them become void.
     void SetText(const QString& text);
 
-    /// Adds an element without a namespace behind the last child.
-    XmlNode AppendElement(const QString& name);
+    /// Gives an attribute another name and leaves it where it is; that no other one has the name is up to the caller.
+    void Rename(const QString& name);
+
+    using NamedValue = std::pair<QString, QString>;
+
+    /// Adds an element without a namespace, with these attributes in their order, behind the last child. Nothing has
+    /// changed when it throws.
+    XmlNode AppendElement(const QString& name, std::initializer_list<NamedValue> attributes = {});
 
     /// The node as XML, without any layout of its own.
     QString ToText() const;

@@ -6,6 +6,8 @@
 #include "common/Utf8.h"
 #include "common/XmlBytes.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 #include <array>
 
@@ -194,8 +196,11 @@ std::optional<TemplateText> ReadTemplateFile(const QString& path)
 
 std::optional<std::size_t> FileMark(const QString& path)
 {
-    const auto utf8 = XmlUtf8FromFile(PlatformPath(path), kMostBytes);
-    return utf8 ? std::optional(MarkOf(*utf8)) : std::nullopt;
+    const QString file = PlatformPath(path);
+    if (!QFileInfo::exists(file))
+        return std::nullopt;
+    const auto utf8 = XmlUtf8FromFile(file, kMostBytes);
+    return utf8 ? MarkOf(*utf8) : 0;
 }
 
 } // namespace schedules

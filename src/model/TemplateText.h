@@ -40,7 +40,7 @@ QString NameIn(const TemplateText::Attributes& attributes);
 /// stand in the name.
 std::optional<TemplateText> ReadTemplateFile(const QString& path);
 
-/// A number that changes when the content of a file changes; nothing when it cannot be read.
+/// A number that changes when the content of a file changes: 0 when it cannot be read, nothing when there is none.
 std::optional<std::size_t> FileMark(const QString& path);
 
 } // namespace schedules

@@ -47,6 +47,8 @@ class ctlSchedule : public ToolControl
     Q_PROPERTY(bool SelectAllTags MEMBER m_selectAllTags)
     /// Whether there are edited values that have not been saved.
     Q_PROPERTY(bool TagDataDirty READ TagDataDirty)
+    /// The same, under the name that every tool has it.
+    Q_PROPERTY(bool HasUnsavedEdits READ TagDataDirty)
     /// How the grid is laid out now, see `CSchedule`.
     Q_PROPERTY(int SchedOrientation READ SchedOrientation)
     Q_PROPERTY(bool TransposeData READ TransposeData)
