@@ -1,13 +1,13 @@
 #include "host/CommandLine.h"
 
+#include "host/CommandLineChecks.h"
+#include "host/CommandLineOptions.h"
 #include "host/HostError.h"
 
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
-#include <QHash>
 #include <QRegularExpression>
-#include <QSet>
 
 #include <algorithm>
 #include <array>
@@ -15,27 +15,6 @@
 namespace schedules::host {
 
 namespace {
-
-/// The first one is written when none is named.
-const QStringList kFormats{"png", "pdf", "xls", "xlsx", "csv", "html"};
-
-const QHash<QString, Form> kCommands{{"dump", Form::Dump},
-                                     {"render", Form::Render},
-                                     {"template", Form::Template},
-                                     {"catalogue", Form::Catalogue},
-                                     {"find", Form::Find}};
-
-const QStringList kCommonOptions{"view", "select-all", "messages", "language", "palette"};
-const QStringList kActionOptions{"transpose", "edit", "tick", "sort", "continue", "save"};
-const QStringList kRenderOptions = kFormats + QStringList{"out", "as", "title", "plain-print", "paper"};
-const QStringList kFlags{"select-all", "transpose", "continue", "plain-print"};
-
-/// The options that make sense in one format only.
-const QHash<QString, QString> kFormatOf{{"title", "png"}, {"plain-print", "pdf"}, {"paper", "pdf"}};
-
-/// The options that make sense in one view only.
-const QHash<QString, QString> kViewOf{
-    {"edit", "schedule"}, {"save", "schedule"}, {"tick", "selector"}, {"continue", "selector"}};
 
 const QStringList kViews{"schedule", "selector"};
 const QStringList kLanguages{"en", "de", "fr"};
@@ -46,30 +25,6 @@ const QStringList kPalettes{"desktop", "light", "dark"};
 /// The first one is used when none is named.
 constexpr std::array kPapers{QPageSize::A4, QPageSize::A3,     QPageSize::A2,    QPageSize::A1,     QPageSize::A0,
                              QPageSize::A5, QPageSize::Letter, QPageSize::Legal, QPageSize::Tabloid};
-
-/// The options that a form takes.
-QStringList OptionsOf(Form form)
-{
-    switch (form) {
-    case Form::Dump:
-        return kCommonOptions + kActionOptions;
-    case Form::Render:
-        return kCommonOptions + kActionOptions + kRenderOptions;
-    case Form::Template:
-    case Form::Catalogue:
-    case Form::Find:
-        return {QStringLiteral("language")};
-    default:
-        return kCommonOptions;
-    }
-}
-
-void AddOptions(QCommandLineParser& parser)
-{
-    parser.addOptions({{{"h", "help"}, {}}, {{"v", "version"}, {}}});
-    for (const QString& name : kCommonOptions + kActionOptions + kRenderOptions)
-        parser.addOption({name, {}, kFlags.contains(name) ? QString() : name});
-}
 
 QString OneOf(const QCommandLineParser& parser, const QString& name, const QStringList& choices)
 {
@@ -86,17 +41,6 @@ QString FileName(const QCommandLineParser& parser, const QString& name)
     if (parser.isSet(name) && parser.value(name).isEmpty())
         throw HostError(QStringLiteral("--%1 needs a file name").arg(name));
     return parser.value(name);
-}
-
-void CheckOptions(const QCommandLineParser& parser, Form form)
-{
-    const QString view = OneOf(parser, QStringLiteral("view"), kViews);
-    for (const QString& name : parser.optionNames()) {
-        if (!OptionsOf(form).contains(name))
-            throw HostError(QStringLiteral("--%1 does not belong to this command").arg(name));
-        if (kViewOf.value(name, view) != view)
-            throw HostError(QStringLiteral("--%1 does not belong to the %2 view").arg(name, view));
-    }
 }
 
 /// The parts of an option's value that a pattern captures.
@@ -182,116 +126,36 @@ RenderOptions Rendering(const QCommandLineParser& parser)
             .paper = kPapers[std::size_t(paper)]};
 }
 
-void RequireNames(const QStringList& files)
+EditorOptions Editor(const QCommandLineParser& parser)
 {
-    if (files.contains(QString()))
-        throw HostError(QStringLiteral("the file name is empty"));
-}
-
-void CheckFiles(const QStringList& files, Form form)
-{
-    if (files.isEmpty() && form != Form::Window)
-        throw HostError(QStringLiteral("a file is missing"));
-    if (files.size() > 1 && form != Form::Render)
-        throw HostError(QStringLiteral("one file at a time, not also '%1'").arg(files[1]));
-    RequireNames(files);
-}
-
-/// Whether a folder will do is the catalogue's to say.
-void CheckLists(const QStringList& arguments)
-{
-    if (arguments.size() != 3)
-        throw HostError(QStringLiteral("catalogue takes a list of templates, a list of categories, and a folder"));
-    RequireNames(arguments.first(2));
-}
-
-void CheckPattern(const QStringList& arguments)
-{
-    if (arguments.size() != 1)
-        throw HostError(QStringLiteral("find takes one pattern, in quotes if a shell would expand it"));
-}
-
-void CheckArguments(const QStringList& arguments, Form form)
-{
-    switch (form) {
-    case Form::Catalogue:
-        return CheckLists(arguments);
-    case Form::Find:
-        return CheckPattern(arguments);
-    default:
-        return CheckFiles(arguments, form);
-    }
-}
-
-/// An output has either a name of its own or one that is made from folder and input.
-void CheckNaming(const QCommandLineParser& parser, const QStringList& files)
-{
-    for (const QString& format : kFormats) {
-        for (const char* other : {"out", "as"}) {
-            if (parser.isSet(format) && parser.isSet(QLatin1String(other)))
-                throw HostError(QStringLiteral("--%1 and --%2 exclude each other").arg(QLatin1String(other), format));
-        }
-    }
-    if (files.size() < 2)
-        return;
-    if (!parser.isSet(QStringLiteral("out")))
-        throw HostError(QStringLiteral("several files need --out FOLDER"));
-    if (parser.isSet(QStringLiteral("save")))
-        throw HostError(QStringLiteral("--save takes one file at a time"));
-}
-
-void CheckFormats(const QCommandLineParser& parser, const QList<Output>& outputs)
-{
-    for (const QString& name : parser.optionNames()) {
-        const QString format = kFormatOf.value(name);
-        const auto isIt = [&](const Output& output) { return output.format == format; };
-        if (!format.isEmpty() && std::ranges::none_of(outputs, isIt))
-            throw HostError(QStringLiteral("--%1 belongs to %2 only").arg(name, format));
-    }
-}
-
-/// Nothing may be written over what the same command has written.
-void CheckNames(const CommandLine& commandLine)
-{
-    QStringList names{commandLine.messages, commandLine.actions.save};
-    names.removeAll(QString());
-    for (const QString& file : commandLine.files) {
-        for (const Output& output : commandLine.render.OutputsOf(file))
-            names << output.fileName;
-    }
-    QSet<QString> seen;
-    for (const QString& name : names) {
-        const QString path = QDir::cleanPath(QFileInfo(name).absoluteFilePath());
-        if (seen.contains(path))
-            throw HostError(QStringLiteral("'%1' would be written twice").arg(name));
-        seen.insert(path);
-    }
-}
-
-void CheckRendering(const QCommandLineParser& parser, const CommandLine& commandLine)
-{
-    CheckNaming(parser, commandLine.files);
-    CheckFormats(parser, commandLine.render.OutputsOf(commandLine.files.first()));
-    CheckNames(commandLine);
+    return {.list = FileName(parser, QStringLiteral("list")),
+            .categories = FileName(parser, QStringLiteral("categories")),
+            .current = parser.value(QStringLiteral("current")),
+            .picture = FileName(parser, QStringLiteral("png")),
+            .templateFile = parser.value(QStringLiteral("select")),
+            .group = parser.value(QStringLiteral("group")),
+            .item = parser.value(QStringLiteral("item")),
+            .rightToLeft = parser.isSet(QStringLiteral("right-to-left"))};
 }
 
 CommandLine Understood(const QCommandLineParser& parser)
 {
     QStringList words = parser.positionalArguments();
-    const Form form = kCommands.value(words.value(0), Form::Window);
-    CheckOptions(parser, form);
+    const Form form = FormOf(words.value(0));
+    const QString view = OneOf(parser, QStringLiteral("view"), kViews);
+    CheckOptions(parser, form, view);
     if (form != Form::Window)
         words.removeFirst();
     CheckArguments(words, form);
-    const bool selector = OneOf(parser, QStringLiteral("view"), kViews) == kViews.last();
     return {.form = form,
             .files = words,
-            .view = {.view = selector ? View::Selector : View::Schedule,
+            .view = {.view = view == kViews.last() ? View::Selector : View::Schedule,
                      .selectAll = parser.isSet(QStringLiteral("select-all")),
                      .transpose = parser.isSet(QStringLiteral("transpose"))},
             .actions = Actions(parser),
             .messages = FileName(parser, QStringLiteral("messages")),
-            .render = Rendering(parser),
+            .render = form == Form::Options ? RenderOptions() : Rendering(parser),
+            .editor = form == Form::Options ? Editor(parser) : EditorOptions(),
             .language = OneOf(parser, QStringLiteral("language"), kLanguages),
             .palette = Palette(kPalettes.indexOf(OneOf(parser, QStringLiteral("palette"), kPalettes)))};
 }
@@ -305,10 +169,17 @@ CommandLine Checked(const QCommandLineParser& parser)
     const CommandLine commandLine = Understood(parser);
     if (commandLine.form == Form::Render)
         CheckRendering(parser, commandLine);
+    if (commandLine.form == Form::Options)
+        CheckEditor(commandLine);
     return commandLine;
 }
 
 } // namespace
+
+bool CommandLine::ShowsWindow() const
+{
+    return form == Form::Window || (form == Form::Options && editor.picture.isEmpty());
+}
 
 QList<Output> RenderOptions::OutputsOf(const QString& file) const
 {

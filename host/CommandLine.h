@@ -18,6 +18,7 @@ enum class Form
     Template,
     Catalogue,
     Find,
+    Options,
     Help,
     Version
 };
@@ -102,23 +103,43 @@ struct RenderOptions
     QList<Output> OutputsOf(const QString& file) const;
 };
 
+/// What the options editor is opened on, and what of it is shown.
+struct EditorOptions
+{
+    QString list;         ///< the files of the host's two lists; empty for the user's copy of the samples
+    QString categories;   ///< likewise
+    QString current;      ///< the file name of the template that the schedule uses
+    QString picture;      ///< the file that the editor is drawn into; empty: a window is opened
+    QString templateFile; ///< the template that is chosen; empty for the schedule's
+    QString group;        ///< the group and the data item that are selected in it, as they are listed; empty for none
+    QString item;
+    bool rightToLeft = false;
+
+    bool operator==(const EditorOptions&) const = default;
+};
+
 /// What the program was asked to do.
 struct CommandLine
 {
     Form form = Form::Window;
 
     /// One, or none for the user's copy of the sample; several for `render`. For `catalogue` the list of templates,
-    /// that of categories, and the folder; for `find` the pattern.
+    /// that of categories, and the folder; for `find` the pattern; for `options` the folder, or none for the user's
+    /// copy of the sample templates.
     QStringList files;
 
     ViewOptions view;
     UserActions actions;
     QString messages; ///< the file that every message is appended to; empty for none
     RenderOptions render;
+    EditorOptions editor;
     QString language = QStringLiteral("en");
     Palette palette = Palette::Desktop;
 
     bool operator==(const CommandLine&) const = default;
+
+    /// Whether a person is to see something.
+    bool ShowsWindow() const;
 };
 
 struct UsageError

@@ -27,6 +27,9 @@ int RunCatalogue(const CommandLine& commandLine);
 /// Prints the files that match a pattern.
 int RunFind(const CommandLine& commandLine);
 
+/// Opens the options editor in a window and returns when it is closed, or draws it.
+int RunOptions(const CommandLine& commandLine);
+
 /// Draws the view into a file and prints the file's name.
 int RunRender(const CommandLine& commandLine);
 

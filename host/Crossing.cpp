@@ -20,6 +20,13 @@ QString ParameterText(const Message& message, const QString& name)
     return {};
 }
 
+QString FailureOf(const Crossing& crossing)
+{
+    if (!crossing.failure.isEmpty() || !crossing.message || crossing.message->name != QLatin1String("ErrorMessage"))
+        return crossing.failure;
+    return ParameterText(*crossing.message, QStringLiteral("ErrorDescription"));
+}
+
 QString LogLine(const Crossing& crossing)
 {
     const Envelope& envelope = crossing.envelope;

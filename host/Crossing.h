@@ -23,6 +23,9 @@ struct Crossing
 /// The text of a message's parameter; empty when it has none of that name.
 QString ParameterText(const Message& message, const QString& name);
 
+/// What has failed: the delivery, or what a tool tells of in an "ErrorMessage". Empty for all else.
+QString FailureOf(const Crossing& crossing);
+
 /// The crossing as an XML document on one line, without a line break at its end.
 QString LogLine(const Crossing& crossing);
 

@@ -7,6 +7,8 @@ QString HelpText()
     return QStringLiteral(R"(schedhost: shows equipment schedules.
 
   schedhost [FILE.xml] [options]         opens a window on a schedule, or on your copy of a sample
+  schedhost options [FOLDER --list FILE --categories FILE] [options]
+                                         opens the options editor on templates, or on your copy of the samples
   schedhost dump FILE.xml [options]      prints the grid as JSON
   schedhost render FILE.xml... [options] writes it as a picture, PDF, workbook, web page or text
   schedhost template FILE.xml            prints a template as it is saved
@@ -14,7 +16,7 @@ QString HelpText()
                                          prints the templates that a host lists as JSON
   schedhost find PATTERN                 prints the files that match, such as 'templates/*.xml', as JSON
 
-Options; template, catalogue and find take the language only:
+Options; template, catalogue and find take the language only, options the last three:
   --view schedule|selector   which view loads the file (schedule)
   --select-all               selector view: every check box starts ticked
   --messages FILE            appends each message between tool and host to a file, one XML line each
@@ -37,6 +39,14 @@ For render, what is written; without any of these a picture named after the file
   --paper A4|A3|A2|A1|A0|A5|Letter|Legal|Tabloid
                              the sheet of the PDF (A4)
   --plain-print              the PDF is neither turned nor scaled to have all columns on a page
+
+For options, which reads and writes the templates of FOLDER, and writes the list of templates:
+  --list FILE                the list of the templates; --categories FILE that of their categories
+  --current FILENAME         the template that the schedule uses
+  --select TEMPLATE_FILE     which template is chosen, by the name of its file (the one that the schedule uses)
+  --group NAME               which of its groups is selected; --item NAME which data item of that group
+  --right-to-left            the layout of right-to-left languages
+  --png FILE                 opens no window, but draws a picture of the editor
 
 For dump and render, done after loading in this order; columns and rows are numbered as dump prints them:
   --transpose                exchanges rows and columns

@@ -37,11 +37,10 @@ QString PickedTags(const Message& message)
 /// What the user is told of a message; nothing for most of them.
 QString StatusText(const Crossing& crossing)
 {
-    if (!crossing.failure.isEmpty() || !crossing.message)
-        return crossing.failure;
+    const QString failure = FailureOf(crossing);
+    if (!failure.isEmpty() || !crossing.message)
+        return failure;
     const Message& message = *crossing.message;
-    if (message.name == QLatin1String("ErrorMessage"))
-        return ParameterText(message, QStringLiteral("ErrorDescription"));
     if (message.name == QLatin1String("ContinueButton"))
         return PickedTags(message);
     if (message.name == QLatin1String("PrintSelections"))

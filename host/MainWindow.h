@@ -1,8 +1,8 @@
 #pragma once
 
+#include "host/Answering.h"
 #include "host/CommandLine.h"
 #include "host/TableFile.h"
-#include "host/UnsavedValues.h"
 
 #include <QMainWindow>
 
@@ -13,7 +13,6 @@ class QActionGroup;
 class QMenu;
 
 namespace schedules {
-class UserInterface;
 struct Message;
 } // namespace schedules
 
@@ -23,13 +22,6 @@ class HostRouter;
 class MessageDock;
 class ScheduleTool;
 struct Crossing;
-
-/// Who answers where a window waits for its user.
-struct Answering
-{
-    UserInterface* tool = nullptr; ///< the message boxes of the view; with none they are the desktop's
-    UnsavedQuestion unsaved = AskAboutUnsaved;
-};
 
 /// A window around one schedule view, with the messages that it exchanges with this host. What the view saves goes into
 /// the file that is shown.

@@ -5,22 +5,75 @@
 #include "host/XmlFile.h"
 
 #include <QDir>
-#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
 #include <QStandardPaths>
 
 namespace schedules::host {
 
+namespace {
+
+const QString kTemplates = QStringLiteral("templates");
+const QString kTemplateList = QStringLiteral("lists/template-list.xml");
+const QString kCategoryList = QStringLiteral("lists/category-list.xml");
+const QString kCurrentTemplate = QStringLiteral("CurrentTemplate");
+
+QDir Samples()
+{
+    return QDir(DataFolder(QStringLiteral("samples")));
+}
+
+QString OwnPath(const QString& sample)
+{
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)).filePath(sample);
+}
+
+/// The user's copy of a sample, which is named from the folder of samples on.
+QString OwnCopy(const QString& sample)
+{
+    const QString own = OwnPath(sample);
+    if (QFileInfo::exists(own))
+        return own;
+    const QString folder = QFileInfo(own).path();
+    if (!QDir().mkpath(folder))
+        throw HostError(QStringLiteral("cannot make the folder %1").arg(folder));
+    WriteXmlFile(own, ReadXmlFile(Samples().filePath(sample)));
+    return own;
+}
+
+class Settings : public QSettings
+{
+public:
+    Settings() : QSettings(IniFormat, UserScope, QStringLiteral("schedhost"), QStringLiteral("options")) {}
+};
+
+} // namespace
+
 QString OwnSample()
 {
-    const QString name = QStringLiteral("pumps.xml");
-    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
-    const QString own = folder.filePath(name);
-    if (QFile::exists(own))
-        return own;
-    if (!folder.mkpath(QStringLiteral(".")))
-        throw HostError(QStringLiteral("cannot make the folder %1").arg(folder.path()));
-    WriteXmlFile(own, ReadXmlFile(QDir(DataFolder(QStringLiteral("samples"))).filePath(name)));
-    return own;
+    return OwnCopy(QStringLiteral("pumps.xml"));
+}
+
+TemplatePlaces OwnTemplates()
+{
+    // The list comes last, and so tells that all of them have been copied.
+    if (!QFileInfo::exists(OwnPath(kTemplateList))) {
+        for (const QString& name : QDir(Samples().filePath(kTemplates)).entryList(QDir::Files))
+            OwnCopy(kTemplates + u'/' + name);
+    }
+    const QString categories = OwnCopy(kCategoryList);
+    const QString current = Settings().value(kCurrentTemplate, QStringLiteral("PumpSchedule.xml")).toString();
+    return {
+        .folder = OwnPath(kTemplates), .list = OwnCopy(kTemplateList), .categories = categories, .current = current};
+}
+
+void KeepOwnCurrentTemplate(const QString& fileName)
+{
+    Settings settings;
+    settings.setValue(kCurrentTemplate, fileName);
+    settings.sync();
+    if (settings.status() != QSettings::NoError)
+        throw HostError(QStringLiteral("cannot write %1").arg(settings.fileName()));
 }
 
 } // namespace schedules::host

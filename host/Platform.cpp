@@ -24,10 +24,9 @@ void EnsureUtf8Locale()
 
 } // namespace
 
-void ChoosePlatform(Form form)
+void ChoosePlatform(bool window)
 {
     EnsureUtf8Locale();
-    const bool window = form == Form::Window;
     if (!window)
         QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false\n*.info=false\n*.warning=false"));
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && (!window || !HasDisplay()))

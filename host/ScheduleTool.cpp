@@ -1,7 +1,7 @@
 #include "host/ScheduleTool.h"
 
-#include "framework/IComponentFactory.h"
 #include "framework/IToolUI.h"
+#include "host/CreatedTool.h"
 #include "host/HostError.h"
 #include "host/HostRouter.h"
 #include "spread/Sheet.h"
@@ -12,16 +12,6 @@
 namespace schedules::host {
 
 namespace {
-
-std::unique_ptr<QWidget> CreatedTool(UserInterface* userInterface)
-{
-    std::unique_ptr<QObject> tool(ComponentFactory().CreateTool(QStringLiteral("ctlSchedule"), userInterface));
-    auto* widget = qobject_cast<QWidget*>(tool.get());
-    if (!widget || !qobject_cast<IToolUI*>(widget))
-        throw HostError(QStringLiteral("the component has no schedule view"));
-    tool.release();
-    return std::unique_ptr<QWidget>(widget);
-}
 
 /// Calls a method of the view that gives what went wrong.
 template <class... Arguments>
@@ -36,7 +26,8 @@ QString FailureOf(QWidget& view, const char* method, Arguments... arguments)
 } // namespace
 
 ScheduleTool::ScheduleTool(IMsgRouter& router, UserInterface* userInterface, const ViewOptions& options)
-    : m_widget(CreatedTool(userInterface)), m_tool(qobject_cast<IToolUI*>(m_widget.get()))
+    : m_widget(CreatedTool(QStringLiteral("ctlSchedule"), userInterface)),
+      m_tool(qobject_cast<IToolUI*>(m_widget.get()))
 {
     m_widget->setProperty("ViewType", static_cast<int>(options.view));
     m_widget->setProperty("SelectAllTags", options.selectAll);

@@ -35,6 +35,8 @@ int Run(const CommandLine& commandLine)
         return RunCatalogue(commandLine);
     case Form::Find:
         return RunFind(commandLine);
+    case Form::Options:
+        return RunOptions(commandLine);
     default:
         return RunWindow(commandLine);
     }
@@ -50,7 +52,7 @@ std::unique_ptr<QCoreApplication> Application(Form form, int& argc, char** argv)
 
 int RunApplication(const CommandLine& commandLine, int argc, char** argv)
 {
-    ChoosePlatform(commandLine.form);
+    ChoosePlatform(commandLine.ShowsWindow());
     const auto application = Application(commandLine.form, argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("schedhost"));
     QCoreApplication::setApplicationVersion(ComponentFactory().Version());

@@ -204,5 +204,9 @@ the other component_*.ts files; English itself needs none.
         <source>There is a template of this name already, in a file of another name.</source>
         <translation>Es gibt bereits eine Vorlage dieses Namens in einer Datei mit einem anderen Namen.</translation>
     </message>
+    <message>
+        <source>A text of the template has a character that cannot be saved.</source>
+        <translation>Ein Text der Vorlage enthält ein Zeichen, das nicht gespeichert werden kann.</translation>
+    </message>
 </context>
 </TS>

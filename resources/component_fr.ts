@@ -204,5 +204,9 @@ the other component_*.ts files; English itself needs none.
         <source>There is a template of this name already, in a file of another name.</source>
         <translation>Il existe déjà un modèle de ce nom, dans un fichier d’un autre nom.</translation>
     </message>
+    <message>
+        <source>A text of the template has a character that cannot be saved.</source>
+        <translation>Un texte du modèle contient un caractère qui ne peut pas être enregistré.</translation>
+    </message>
 </context>
 </TS>

@@ -93,8 +93,10 @@ void GatheredReports::ShowGathered() noexcept
 {
     m_gathers = false;
     const auto boxes = std::exchange(m_boxes, {});
-    if (!boxes.empty())
-        IgnoringErrors([&] { m_user.Show(InOne(boxes)); });
+    if (boxes.empty())
+        return;
+    IgnoringErrors([&] { m_user.SetPointer(Pointer::Default); });
+    IgnoringErrors([&] { m_user.Show(InOne(boxes)); });
 }
 
 } // namespace schedules

@@ -33,6 +33,7 @@ CheckList::CheckList(QWidget* parent)
     setSelectionMode(SingleSelection);
     setVerticalScrollMode(ScrollPerItem);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    viewport()->setMouseTracking(true); // tells a drag whose release went elsewhere that it is over
     // Assistive programs select too, and are the user.
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         if (!m_quiet && CurrentRow() >= 0)
@@ -109,8 +110,9 @@ void CheckList::MoveEntry(int from, int to)
     CancelDrag();
     const int selected = CurrentRow();
     m_entries->Move(from, to);
+    // A hidden list scrolls to what is selected when it is shown.
     if (selected >= 0)
-        Select(RowAfterMove(selected, from, to), Scrolling::No);
+        Select(RowAfterMove(selected, from, to), isVisible() ? Scrolling::No : Scrolling::Yes);
     KeepVisible(to);
 }
 

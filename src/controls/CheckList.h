@@ -13,7 +13,8 @@ namespace schedules {
 class CheckListDelegate;
 class CheckListModel;
 
-/// A list of entries with check boxes, of which the user selects one. Each entry has a text and a number of its owner's.
+/// A list of entries with check boxes, of which the user selects one. Each entry has a text and a number of its
+/// owner's.
 ///
 /// Rows count from 0; -1 is no row. A row that is not there has the text "", the ID 0 and no check; changing it does
 /// nothing. The vertical scroll bar counts entries, so its value is the top row (of those shown).
@@ -99,7 +100,11 @@ private:
         action();
     }
 
-    enum class Scrolling { Yes, No };
+    enum class Scrolling
+    {
+        Yes,
+        No
+    };
     void Select(int row, Scrolling scrolling);
 
     QModelIndex IndexOf(int row) const;

@@ -1,6 +1,7 @@
 #include "controls/CheckListDelegate.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QTextDocument>
@@ -15,22 +16,19 @@ QStyle& StyleOf(const QStyleOptionViewItem& option)
     return *(option.widget ? option.widget->style() : QApplication::style());
 }
 
-/// The option of the same entry in the colors it has, but with a check mark that is disabled.
-QStyleOptionViewItem WithGreyMark(QStyleOptionViewItem option)
-{
-    const auto group = option.state & QStyle::State_Active ? QPalette::Active : QPalette::Inactive;
-    for (const auto role : {QPalette::Base, QPalette::Highlight})
-        option.palette.setBrush(QPalette::Disabled, role, option.palette.brush(group, role));
-    option.state &= ~QStyle::State_Enabled;
-    return option;
-}
+constexpr double kPaleness = 0.4;
 
 } // namespace
 
+QStyleOptionViewItem CheckListDelegate::Filled(QStyleOptionViewItem option, const QModelIndex& index) const
+{
+    initStyleOption(&option, index);
+    return option;
+}
+
 QRect CheckListDelegate::MarkRect(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    QStyleOptionViewItem filled = option;
-    initStyleOption(&filled, index);
+    const QStyleOptionViewItem filled = Filled(option, index);
     return StyleOf(filled).subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &filled, filled.widget);
 }
 
@@ -43,13 +41,22 @@ void CheckListDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
     painter->setClipRegion(QRegion(option.rect) - mark);
     QStyledItemDelegate::paint(painter, option, index);
     painter->setClipRect(mark);
-    QStyledItemDelegate::paint(painter, WithGreyMark(option), index);
+    PaintPale(painter, option, index);
     painter->restore();
+}
+
+/// Not every style tells an empty mark that is disabled from one that is not.
+void CheckListDelegate::PaintPale(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    const QStyleOptionViewItem filled = Filled(option, index);
+    StyleOf(filled).drawPrimitive(QStyle::PE_PanelItemViewItem, &filled, painter, filled.widget);
+    painter->setOpacity(kPaleness);
+    QStyledItemDelegate::paint(painter, option, index);
 }
 
 QString CheckListDelegate::displayText(const QVariant& value, const QLocale& locale) const
 {
-    return QStyledItemDelegate::displayText(value, locale).replace(u'\n', u' ');
+    return QStyledItemDelegate::displayText(value, locale).replace(QChar::LineSeparator, u' ');
 }
 
 QSize CheckListDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
@@ -59,8 +66,7 @@ QSize CheckListDelegate::sizeHint(const QStyleOptionViewItem& option, const QMod
 
 bool CheckListDelegate::IsElided(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    QStyleOptionViewItem filled = option;
-    initStyleOption(&filled, index);
+    const QStyleOptionViewItem filled = Filled(option, index);
     const QStyle& style = StyleOf(filled);
     const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, filled.widget) + 1;
     const QRect place = style.subElementRect(QStyle::SE_ItemViewItemText, &filled, filled.widget);

@@ -4,7 +4,7 @@
 
 namespace schedules {
 
-/// Paints the entries of a check list in the look of the platform: elided where they are too long, with a grey mark
+/// Paints the entries of a check list in the look of the platform: elided where they are too long, with a pale mark
 /// where it cannot be checked. The tool tip of an elided entry is its whole text.
 class CheckListDelegate : public QStyledItemDelegate
 {
@@ -27,6 +27,8 @@ public:
                    const QModelIndex& index) override;
 
 private:
+    QStyleOptionViewItem Filled(QStyleOptionViewItem option, const QModelIndex& index) const;
+    void PaintPale(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const;
     bool IsElided(const QStyleOptionViewItem& option, const QModelIndex& index) const;
 };
 

@@ -40,8 +40,8 @@ bool ChecksEntry(const QKeyEvent& event)
 
 bool CheckList::event(QEvent* event)
 {
-    const bool isEscape = event->type() == QEvent::ShortcutOverride &&
-                          static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
+    const bool isEscape =
+        event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
     if (!isEscape || !IsDragging())
         return QListView::event(event);
     event->accept();

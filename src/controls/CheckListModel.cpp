@@ -68,7 +68,7 @@ int CheckListModel::rowCount(const QModelIndex& parent) const
 
 QVariant CheckListModel::data(const QModelIndex& index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!index.isValid())
         return {};
     const CheckEntry& entry = At(index.row());
     if (role == Qt::DisplayRole)
@@ -80,7 +80,7 @@ QVariant CheckListModel::data(const QModelIndex& index, int role) const
 
 Qt::ItemFlags CheckListModel::flags(const QModelIndex& index) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!index.isValid())
         return Qt::NoItemFlags;
     const Qt::ItemFlags always = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
     return At(index.row()).checked ? always | Qt::ItemIsUserCheckable : always;

@@ -281,6 +281,57 @@ TEST(XmlDocument, IsBuiltFromNothing)
                                       "</Item><Item/></Group></Template>"));
 }
 
+TEST(XmlNode, ARenamedAttributeStaysInItsPlace)
+{
+    const auto document = Parsed("<T xmlns:p='u' a='1' name='x' p:b='2'>y</T>");
+    document.SelectOne(Text("T/@name")).Rename(Text("Name"));
+    document.SelectOne(Text("T/@*[3]")).Rename(Text("c"));
+    EXPECT_EQ(document.ToText(), Text("<T xmlns:p=\"u\" a=\"1\" Name=\"x\" p:c=\"2\">y</T>"));
+    EXPECT_EQ(document.Root().Attribute(Text("Name")), Text("x"));
+    EXPECT_FALSE(document.Root().HasAttribute(Text("name")));
+}
+
+TEST(XmlNode, OnlyAttributesAreRenamedAndOnlyToNames)
+{
+    const auto document = Parsed("<T a='1'>x</T>");
+    for (const char* name : {"", "1a", "a b", "p:a"})
+        EXPECT_THROW(document.SelectOne(Text("T/@a")).Rename(Text(name)), Error) << name;
+    EXPECT_THROW(document.Root().Rename(Text("b")), Error);
+    EXPECT_THROW(document.Root().Children()[0].Rename(Text("b")), Error);
+    EXPECT_THROW(XmlNode().Rename(Text("b")), Error);
+    EXPECT_EQ(document.ToText(), Text("<T a=\"1\">x</T>")) << "nothing has changed";
+}
+
+TEST(XmlNode, AnElementIsAppendedWithItsAttributes)
+{
+    const auto document = Parsed("<T> <a/> </T>");
+    document.Root().AppendElement(Text("b"), {{Text("y"), Text("\"<\n")}, {Text("x"), {}}});
+    EXPECT_EQ(document.ToText(), Text("<T> <a/> <b y=\"&quot;&lt;&#10;\" x=\"\"/></T>"));
+}
+
+TEST(XmlNode, AnElementIsNotAppendedWithoutAllOfItsAttributes)
+{
+    const auto document = Parsed("<T/>");
+    EXPECT_THROW(document.Root().AppendElement(Text("b"), {{Text("x"), {}}, {Text("y"), QString(QChar(1))}}), Error);
+    EXPECT_THROW(document.Root().AppendElement(Text("b"), {{Text("x"), {}}, {Text("1"), {}}}), Error);
+    EXPECT_EQ(document.ToText(), Text("<T/>"));
+}
+
+TEST(XmlNode, AnAppendedElementIsInNoNamespaceAlsoAfterReading)
+{
+    const auto appended = [](const char* xml) {
+        const auto document = Parsed(xml);
+        document.SelectOne(Text("//*[last()]")).AppendElement(Text("b"));
+        return document.ToText().toStdString();
+    };
+    EXPECT_EQ(appended("<a xmlns='u'/>"), "<a xmlns=\"u\"><b xmlns=\"\"/></a>");
+    EXPECT_EQ(appended("<p:a xmlns:p='u'/>"), "<p:a xmlns:p=\"u\"><b/></p:a>");
+    EXPECT_EQ(Selected(Parsed(appended("<a xmlns='u'/>").c_str()), "//b"), "b");
+    const auto nested = Parsed("<a xmlns='u'><c xmlns=''/></a>");
+    nested.SelectOne(Text("//c")).AppendElement(Text("b"));
+    EXPECT_EQ(nested.ToText(), Text("<a xmlns=\"u\"><c xmlns=\"\"><b/></c></a>"));
+}
+
 TEST(XmlDocument, ADeclaredEncodingOfATextIsIgnoredAndOfAFileHonoured)
 {
     const char* const declaration = "<?xml version='1.0' encoding='windows-1251'?>";

@@ -223,16 +223,18 @@ TEST(CommandLine, WrongUsageIsToldInOneLine)
 TEST(CommandLine, HelpNamesEveryOption)
 {
     for (const char* option :
-         {"--view", "--select-all", "--transpose", "--png",  "--title",   "--messages", "--language", "--edit",
-          "--tick", "--sort",       "--continue",  "--save", "--palette", "--help",     "--version",  "--pdf",
-          "--xls",  "--xlsx",       "--csv",       "--html", "--out",     "--as",       "--paper",    "--plain-print"})
+         {"--view",    "--select-all", "--transpose",    "--png",      "--title",      "--messages", "--language",
+          "--edit",    "--tick",       "--sort",         "--continue", "--save",       "--palette",  "--help",
+          "--version", "--pdf",        "--xls",          "--xlsx",     "--csv",        "--html",     "--out",
+          "--as",      "--paper",      "--plain-print",  "--list",     "--categories", "--current",  "--select",
+          "--group",   "--item",       "--right-to-left"})
         EXPECT_TRUE(HelpText().contains(QLatin1String(option))) << option;
 }
 
 TEST(CommandLine, HelpNamesEveryCommand)
 {
-    for (const char* command : {"dump FILE.xml", "render FILE.xml", "template FILE.xml",
-                                "catalogue LIST.xml CATEGORIES.xml FOLDER", "find PATTERN"})
+    for (const char* command : {"options [FOLDER --list FILE --categories FILE]", "dump FILE.xml", "render FILE.xml",
+                                "template FILE.xml", "catalogue LIST.xml CATEGORIES.xml FOLDER", "find PATTERN"})
         EXPECT_TRUE(HelpText().contains(QStringLiteral("\n  schedhost %1").arg(command))) << command;
 }
 

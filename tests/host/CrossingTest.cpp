@@ -80,4 +80,18 @@ TEST(CrossingLine, ABodyThatIsNoMessageStandsThereAsText)
                                  "<reply></reply></sent>");
 }
 
+TEST(FailureOf, IsWhyAMessageWasNotDeliveredOrWhatItReports)
+{
+    Message report;
+    report.name = QStringLiteral("ErrorMessage");
+    report.parameters.Add(ParameterType::Text, QStringLiteral("ErrorDescription"), QStringLiteral("disk full"));
+    Message other = report;
+    other.name = QStringLiteral("Other");
+    EXPECT_EQ(FailureOf({.message = report}), "disk full");
+    EXPECT_EQ(FailureOf({.message = report, .failure = QStringLiteral("no host")}), "no host");
+    EXPECT_EQ(FailureOf({.message = other}), QString());
+    EXPECT_EQ(FailureOf({.message = std::nullopt, .failure = QStringLiteral("no host")}), "no host");
+    EXPECT_EQ(FailureOf({}), QString());
+}
+
 } // namespace schedules::host

@@ -1,8 +1,12 @@
 // The window that is opened without a file.
 
+#include "host/OwnSample.h"
+
 #include "HostProgram.h"
+#include "host/HostError.h"
 
 #include <QFileInfo>
+#include <QSettings>
 
 namespace schedules::host::testing {
 
@@ -66,6 +70,21 @@ TEST_F(OwnSampleTest, AFolderThatCannotBeMadeIsTold)
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_TRUE(run.err.endsWith(("cannot make the folder " + file + "/schedhost\n").toLocal8Bit()))
         << run.err.constData();
+}
+
+TEST_F(OwnSampleTest, TheTemplateInUseIsKeptInTheSettings)
+{
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, Path(QStringLiteral("config")));
+    KeepOwnCurrentTemplate(QStringLiteral("Fänge, 1.xml"));
+    const QSettings kept(Path(QStringLiteral("config/schedhost/options.ini")), QSettings::IniFormat);
+    EXPECT_EQ(kept.value(QStringLiteral("CurrentTemplate")), QStringLiteral("Fänge, 1.xml"));
+}
+
+TEST_F(OwnSampleTest, SettingsThatCannotBeWrittenAreTold)
+{
+    Written(QStringLiteral("file"), "x");
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, Path(QStringLiteral("file")));
+    EXPECT_THROW(KeepOwnCurrentTemplate(QStringLiteral("Fans.xml")), HostError);
 }
 
 } // namespace schedules::host::testing

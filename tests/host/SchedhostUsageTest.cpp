@@ -17,7 +17,9 @@ TEST_F(SchedhostUsage, WrongUsageIsExitCode2AndOneLine)
                                    {"dump", "a", "--view", "x"},
                                    {"--odd"},
                                    {"dump", "a", "--png", "p"},
-                                   {"a", "--transpose"}};
+                                   {"a", "--transpose"},
+                                   {"options", "folder"},
+                                   {"options", "--list", "l"}};
     for (const QStringList& arguments : wrong) {
         const Outcome run = Schedhost(arguments);
         EXPECT_EQ(run.exitCode, 2) << qPrintable(arguments.join(u' '));

@@ -186,6 +186,18 @@ TEST_F(ScheduleActivation, OfANewDocumentForgetsTheEditsOfTheOldOne)
     }
 }
 
+TEST_F(ScheduleActivation, TellsOfUnsavedEditsAsEveryToolDoes)
+{
+    Start(kScheduleView, kSchedule);
+    EXPECT_EQ(view.property("HasUnsavedEdits"), false);
+    view.SetTagDataDirty(true);
+    EXPECT_EQ(view.property("HasUnsavedEdits"), true);
+    view.IToolUI_XML(kOtherSchedule);
+    view.IToolUI_Activate();
+    EXPECT_EQ(view.property("HasUnsavedEdits"), false);
+    EXPECT_FALSE(view.setProperty("HasUnsavedEdits", true)) << "it is the view's to say";
+}
+
 TEST_F(ScheduleActivation, ShowsTheCommandButtonsOfItsViewType)
 {
     Start(kSelectorView, kSelection);

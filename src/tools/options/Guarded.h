@@ -43,4 +43,16 @@ void ctlSchedOptions::Guarded(const char* procedure, Body&& body)
     Guarded(procedure, false, [&] { return std::invoke(body), true; });
 }
 
+template <std::invocable Question>
+auto ctlSchedOptions::WhileActive(Question&& question)
+{
+    const QPointer<QWidget> alive(this);
+    const bool isActive = m_templates != nullptr;
+    auto answer = std::invoke(question);
+    RequireAlive(alive);
+    if (isActive && !m_templates)
+        throw EditorGone();
+    return answer;
+}
+
 } // namespace schedules

@@ -235,6 +235,11 @@ void OptionsForm::Translate() const
     lstItems->setAccessibleName(m_itemsLabel->text().remove(u'&'));
     txtDisplayName->setAccessibleName(lblDisplayName->text());
     cboTemplates->setAccessibleName(m_templateLabel->text().remove(u'&'));
+    // Two buttons each have the same caption; what is said of them tells them apart.
+    for (const auto& buttons : {cmdGroupMove, cmdItemMove}) {
+        for (QPushButton* button : buttons)
+            button->setAccessibleName(button->toolTip());
+    }
 }
 
 void OptionsForm::FitInto(QSize size)
@@ -269,10 +274,10 @@ void OptionsForm::Mirror(Qt::LayoutDirection direction)
         label->setAlignment(side | Qt::AlignAbsolute | Qt::AlignVCenter);
 }
 
-void OptionsForm::Disable()
+void OptionsForm::SetEnabled(bool enabled)
 {
     for (QWidget* control : m_editor.findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
-        control->setEnabled(false);
+        control->setEnabled(enabled);
 }
 
 void OptionsForm::KeepCaptionWithoutGroup()

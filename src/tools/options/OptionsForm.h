@@ -27,7 +27,8 @@ class OptionsForm
 public:
     explicit OptionsForm(QWidget& editor);
 
-    void Disable();
+    /// Of all controls that stand in the editor itself.
+    void SetEnabled(bool enabled);
 
     /// Leaves out what explains more than it does where there is little room.
     void FitInto(QSize size);

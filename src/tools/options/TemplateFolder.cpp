@@ -7,7 +7,6 @@
 #include "fileutil/CFileUtility.h"
 #include "tools/options/FileNameFlaw.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -53,6 +52,13 @@ bool IsForListing(const QString& name)
 {
     constexpr char16_t kFirstNonCharacter = 0xFFFE;
     return name.isValidUtf16() && std::ranges::all_of(name, [](QChar each) { return each < kFirstNonCharacter; });
+}
+
+/// The path at the end of all links; empty when there is none.
+QString ResolvedPath(const QString& path)
+{
+    std::error_code failure;
+    return QFile::decodeName(std::filesystem::canonical(SystemPath(path), failure).c_str());
 }
 
 bool IsInside(const QString& folder, const QString& place)
@@ -151,9 +157,8 @@ std::optional<QString> TemplateFolder::PlaceOf(const QString& fileName) const
     const QString path = PlatformPath(PathOf(fileName));
     if (!exists(StatusAt(path)))
         return path;
-    const QString folder = QFileInfo(PlatformPath(PathOf({}))).canonicalFilePath();
-    const QString place = QFileInfo(path).canonicalFilePath();
-    return IsInside(folder, place) ? std::optional(place) : std::nullopt;
+    const QString place = ResolvedPath(path);
+    return IsInside(ResolvedPath(PathOf({})), place) ? std::optional(place) : std::nullopt;
 }
 
 } // namespace schedules

@@ -45,7 +45,7 @@ QString WithRootAttributes(const QString& templateXml, std::initializer_list<Roo
     } catch (const Error&) {
         throw Error(kSaveError, ComponentText("A text of the template has a character that cannot be saved."));
     }
-    return root.ToText();
+    return document.Node().ToText().trimmed();
 }
 
 } // namespace schedules

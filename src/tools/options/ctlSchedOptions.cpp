@@ -28,7 +28,7 @@ std::optional<double> NumberIn(const QString& reply)
 {
     bool isNumber = false;
     const double number = TrimmedOfBlanks(reply).toDouble(&isNumber);
-    return isNumber ? std::optional(number) : std::nullopt;
+    return isNumber && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
 int HandleIn(const QString& reply)
@@ -110,8 +110,8 @@ bool ctlSchedOptions::ObtainResourceModule()
         return true;
     const RequestMessage request = Request(u"GetResourceModule");
     // Hosts count on being asked twice: the first answer says whether there is one, the second is the one.
-    if (NumberIn(Ask(request))) {
-        if (const int handle = HandleIn(Ask(request)))
+    if (NumberIn(Reply(request))) {
+        if (const int handle = HandleIn(Reply(request)))
             SetResourceModule(handle);
     }
     return true;
@@ -135,11 +135,15 @@ void ctlSchedOptions::Activate()
     if (m_state.loaded)
         return;
     m_state.loaded = true; // whatever comes of it: a failed activation is not tried again
+    const PointerReset reset(*this);
+    Ui().SetPointer(Pointer::Hourglass);
     const QString templateList = GetAllTemplates();
     m_builderPath = GetBuilderPath();
     const QString categories = Ask(Request(u"GETTEMPLATECATEGORIES"));
-    if (!m_templates)
+    if (!m_templates) {
         m_templates = std::make_shared<CTemplates>(*m_reports);
+        m_form.SetEnabled(true);
+    }
     if (!templateList.isEmpty() && !m_builderPath.isEmpty())
         CreateCatalogue(templateList, categories);
     else
@@ -174,11 +178,11 @@ void ctlSchedOptions::IToolUI_Deactivate(bool)
         m_state.ForgetTemplate();
         m_templates.reset();
         m_categories.reset();
-        m_form.Disable();
+        m_form.SetEnabled(false);
     });
 }
 
-QString ctlSchedOptions::Ask(const RequestMessage& message)
+QString ctlSchedOptions::Reply(const RequestMessage& message)
 {
     const QPointer<QWidget> alive(this);
     const QString reply = SendRequestToOwner(message);
@@ -186,15 +190,17 @@ QString ctlSchedOptions::Ask(const RequestMessage& message)
     return reply;
 }
 
-Answer ctlSchedOptions::Tell(const MessageBox& box)
+QString ctlSchedOptions::Ask(const RequestMessage& message)
 {
-    const QPointer<QWidget> alive(this);
-    const Answer answer = Ui().Show(box);
-    RequireAlive(alive);
-    return answer;
+    return WhileActive([&] { return Reply(message); });
 }
 
-void ctlSchedOptions::RequireAlive(const QPointer<QWidget>& alive) const
+Answer ctlSchedOptions::Tell(const MessageBox& box)
+{
+    return WhileActive([&] { return Ui().Show(box); });
+}
+
+void ctlSchedOptions::RequireAlive(const QPointer<QWidget>& alive)
 {
     if (!alive)
         throw EditorGone();

@@ -88,9 +88,13 @@ private:
     Result Guarded(const char* procedure, Result otherwise, Body&& body);
     template <std::invocable Body>
     void Guarded(const char* procedure, Body&& body);
-    void RequireAlive(const QPointer<QWidget>& alive) const;
+    static void RequireAlive(const QPointer<QWidget>& alive);
 
-    // Asking the host and the user; these do not return into an editor that is gone.
+    // Asking the host and the user; these do not return into an editor that is gone, and all but `Reply` neither into
+    // one that was deactivated meanwhile.
+    template <std::invocable Question>
+    auto WhileActive(Question&& question);
+    QString Reply(const RequestMessage& message);
     QString Ask(const RequestMessage& message);
     Answer Tell(const MessageBox& box);
     QString GetAllTemplates();

@@ -133,8 +133,10 @@ void ctlSchedOptions::UpdateHostList(const WrittenTemplate& written, const QStri
 
 QString ctlSchedOptions::FileText(const WrittenTemplate& written, bool asItIs)
 {
-    if (asItIs)
-        return WithRootAttributes(written.xml, {});
+    if (asItIs) {
+        WithRootAttributes(written.xml, {}); // no file gets a text that nobody can read
+        return written.xml;
+    }
     return WithRootAttributes(written.xml, {{QStringLiteral("Name"), written.name},
                                             {QStringLiteral("DisplayName"), written.displayName},
                                             {QStringLiteral("Category"), written.category},

@@ -40,6 +40,8 @@ CTemplates& ctlSchedOptions::Catalogue() const
 
 void ctlSchedOptions::SelectByFile(const QString& fileName)
 {
+    if (fileName.isEmpty())
+        return;
     const QString wanted = fileName.toUpper();
     const auto templates = Catalogue().NewEnum();
     const auto found =
@@ -101,8 +103,10 @@ bool ctlSchedOptions::SetCurrentTemplate(int templateId)
             return false;
         m_state.currentGroup.reset();
         m_state.currentTemplate = Catalogue().Template(templateId);
-        if (!m_state.currentTemplate)
+        if (!m_state.currentTemplate) {
+            ShowTemplateCaption();
             return false;
+        }
         m_form.cmdDelete->setEnabled(!m_state.currentTemplate->Protected());
         m_state.currentTemplate->SetDirty(false, Inside());
         ShowTemplateCaption();

@@ -160,7 +160,6 @@ void frmSaveAs::Form_Activate()
 {
     Reported(m_userInterface, kSource.In(__func__), [this] {
         setWindowTitle(m_titleBarCaption);
-        m_callerWarning.clear();
         m_fields.useNameAsCaption->setChecked(true);
         m_fields.name->setText(m_defaultName);
         m_fields.fileName->setText(m_proposedFileName);
@@ -217,8 +216,7 @@ void frmSaveAs::Text1_GotFocus()
 
 void frmSaveAs::txtTemplCaption_Change()
 {
-    if (!m_fields.caption->IsLocked())
-        m_displayName = m_fields.caption->text();
+    m_displayName = m_fields.caption->text();
 }
 
 void frmSaveAs::chkUseNameAsCaption_Click()
