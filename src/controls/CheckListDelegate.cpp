@@ -17,6 +17,21 @@ QStyle& StyleOf(const QStyleOptionViewItem& option)
 }
 
 constexpr double kPaleness = 0.4;
+constexpr int kDark = 128; ///< of a lightness up to 255
+constexpr int kFrameAlpha = 120;
+
+/// On a dark ground the style's own frame of a mark is darker still: an empty mark would not be seen.
+void FrameMark(QPainter& painter, const QRect& mark, const QPalette& palette)
+{
+    if (palette.color(QPalette::Base).lightness() >= kDark)
+        return;
+    QColor frame = palette.color(QPalette::Text);
+    frame.setAlpha(kFrameAlpha);
+    painter.save();
+    painter.setPen(frame);
+    painter.drawRect(mark.adjusted(0, 0, -1, -1));
+    painter.restore();
+}
 
 } // namespace
 
@@ -34,9 +49,11 @@ QRect CheckListDelegate::MarkRect(const QStyleOptionViewItem& option, const QMod
 
 void CheckListDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    if (index.flags() & Qt::ItemIsUserCheckable)
-        return QStyledItemDelegate::paint(painter, option, index);
     const QRect mark = MarkRect(option, index);
+    if (index.flags() & Qt::ItemIsUserCheckable) {
+        QStyledItemDelegate::paint(painter, option, index);
+        return FrameMark(*painter, mark, option.palette);
+    }
     painter->save();
     painter->setClipRegion(QRegion(option.rect) - mark);
     QStyledItemDelegate::paint(painter, option, index);
@@ -52,6 +69,7 @@ void CheckListDelegate::PaintPale(QPainter* painter, const QStyleOptionViewItem&
     StyleOf(filled).drawPrimitive(QStyle::PE_PanelItemViewItem, &filled, painter, filled.widget);
     painter->setOpacity(kPaleness);
     QStyledItemDelegate::paint(painter, option, index);
+    FrameMark(*painter, MarkRect(option, index), option.palette);
 }
 
 QString CheckListDelegate::displayText(const QVariant& value, const QLocale& locale) const

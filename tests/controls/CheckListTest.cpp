@@ -101,6 +101,21 @@ TEST(CheckList, AMarkThatCannotBeCheckedIsPaleAndTheRestOfTheEntryIsNot)
     EXPECT_EQ(checkable.copy(rest), fixed.copy(rest));
 }
 
+TEST(CheckList, AnEmptyMarkStandsOutOnADarkGround)
+{
+    ShownCheckList shown("[ ] Flow");
+    QPalette dark = shown.list->palette();
+    dark.setColor(QPalette::Base, QColor(0x1E, 0x1F, 0x22));
+    dark.setColor(QPalette::Text, QColor(0xE6, 0xE6, 0xE6));
+    shown.list->setPalette(dark);
+    const QImage picture = shown.list->viewport()->grab().toImage();
+    const QRect entry = shown.list->visualRect(shown.list->model()->index(0, 0));
+    int brightest = 0; // of the left end, where there is nothing but the mark
+    for (int x = 0; x < entry.height(); ++x)
+        brightest = std::max(brightest, picture.pixelColor(x, entry.center().y()).lightness());
+    EXPECT_GT(brightest, 100);
+}
+
 TEST(CheckList, ChangesTextsAndChecks)
 {
     const ShownCheckList shown(kPump);
