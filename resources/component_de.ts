@@ -178,7 +178,7 @@ the other component_*.ts files; English itself needs none.
     </message>
     <message>
         <source>Update</source>
-        <translation>Übernehmen</translation>
+        <translation>Aktualisieren</translation>
     </message>
     <message>
         <source>Reset</source>

@@ -170,11 +170,11 @@ the other component_*.ts files; English itself needs none.
     </message>
     <message>
         <source>User-Defined Data Item:</source>
-        <translation>Élément de données personnalisé :</translation>
+        <translation>Élément de données personnalisé&#160;:</translation>
     </message>
     <message>
         <source>Display Name:</source>
-        <translation>Nom affiché :</translation>
+        <translation>Nom affiché&#160;:</translation>
     </message>
     <message>
         <source>Update</source>

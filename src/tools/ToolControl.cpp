@@ -51,13 +51,15 @@ UserInterface& ToolControl::Own(std::unique_ptr<UserInterface> userInterface)
 void ToolControl::StartUp(IMsgRouter* router, const QString& owner, const char* announcement)
 {
     TellingHost("IToolUI_Initialize", [&] {
+        const QPointer<QWidget> alive(this);
         m_router = router;
         m_owner = owner;
-        if (!ObtainResourceModule())
+        if (!ObtainResourceModule() || !alive)
             return;
         LoadControls(TypeName(), findChildren<QObject*>(), Ui());
         SendRequestToOwner(Request(QString::fromLatin1(announcement), {QString()}));
-        TraceProcedure("IToolUI_Initialize");
+        if (alive)
+            TraceProcedure("IToolUI_Initialize");
     });
 }
 

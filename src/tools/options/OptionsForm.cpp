@@ -12,6 +12,9 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <algorithm>
+#include <limits>
+
 namespace schedules {
 
 namespace {
@@ -26,6 +29,13 @@ constexpr auto kLegend = "(*) Indicates user-defined data item";
 
 /// Around fields that a frame holds together, in pixels.
 constexpr int kGap = 4;
+
+// What the editor's size is compared with, in lines and letters of its font and in pixels.
+constexpr int kTallLines = 18;
+constexpr int kTallGaps = 180;
+constexpr int kLettersForLegend = 88;
+constexpr int kLettersForNameInOneRow = 120;
+constexpr int kFewestEntries = 3;
 
 template <class Widget>
 Widget* Named(QWidget& parent, const char* name, const char* text)
@@ -69,6 +79,12 @@ QHBoxLayout* InARow(Widgets*... widgets)
     auto* row = new QHBoxLayout;
     (row->addWidget(widgets), ...);
     return row;
+}
+
+/// Leaves less room in a frame, but for what is below its title.
+void Tighten(QLayout& content)
+{
+    content.setContentsMargins(kGap, content.contentsMargins().top(), kGap, kGap);
 }
 
 } // namespace
@@ -134,6 +150,7 @@ void OptionsForm::BuildNameEditor()
     fraItem = Frame(m_editor, "fraItem", kFrameOfName);
     lblDisplayName = Named<QLabel>(m_editor, "lblDisplayName", kNameLabel);
     txtDisplayName = Named<QLineEdit>(m_editor, "txtDisplayName", "");
+    txtDisplayName->setMaxLength(std::numeric_limits<int>::max());
     lblDisplayName->setBuddy(txtDisplayName);
     fraItem->setFlat(true);
     cmdUpdateUDItemName = Named<QPushButton>(m_editor, "cmdUpdateUDItemName", kUpdate);
@@ -165,6 +182,7 @@ void OptionsForm::LayOut()
     frame->setColumnStretch(0, 2);
     frame->setColumnStretch(1, 3);
     fraGroup->setLayout(ItemsColumn());
+    Tighten(*fraGroup->layout());
 
     auto* all = new QVBoxLayout(&m_editor);
     all->addLayout(choice);
@@ -191,8 +209,9 @@ QLayout* OptionsForm::ItemsColumn()
     name->setStretch(1, 1);
     auto* moves = InARow(cmdItemMove[0], cmdItemMove[1], m_legend);
     moves->setStretch(2, 1);
+    moves->addStretch(); // where the legend is left out
     m_nameFields = new QGridLayout(fraItem);
-    m_nameFields->setContentsMargins(kGap, m_nameFields->contentsMargins().top(), kGap, kGap);
+    Tighten(*m_nameFields);
     PlaceNameFields(false);
     auto* column = new QVBoxLayout;
     column->addLayout(name);
@@ -244,19 +263,21 @@ void OptionsForm::Translate() const
 
 void OptionsForm::FitInto(QSize size)
 {
-    constexpr int kTall = 440;
-    constexpr int kWide = 620;
-    const bool isTall = size.height() >= kTall;
+    const QFontMetrics metrics = m_editor.fontMetrics();
+    const bool isTall = size.height() >= kTallLines * metrics.lineSpacing() + kTallGaps;
+    const int letters = size.width() / std::max(metrics.averageCharWidth(), 1);
     for (QLabel* explanation : {m_hint, m_fileLabel, fileName, m_groupNameLabel, groupName})
         explanation->setVisible(isTall);
-    m_legend->setVisible(isTall || size.width() >= kWide);
-    PlaceNameFields(size.width() < kWide);
+    m_legend->setVisible(isTall || letters >= kLettersForLegend);
+    PlaceNameFields(letters < kLettersForNameInOneRow);
+    lblDisplayName->setVisible(isTall || letters >= kLettersForNameInOneRow);
+    for (CheckList* list : {lstGroups, lstItems})
+        list->setMinimumHeight(kFewestEntries * metrics.lineSpacing() + 2 * list->frameWidth());
 }
 
 /// In one row, or the buttons below the text.
 void OptionsForm::PlaceNameFields(bool narrow)
 {
-    lblDisplayName->setVisible(!narrow);
     for (QWidget* field :
          std::initializer_list<QWidget*>{lblDisplayName, txtDisplayName, cmdUpdateUDItemName, cmdResetUDItemName})
         m_nameFields->removeWidget(field);
@@ -276,8 +297,10 @@ void OptionsForm::Mirror(Qt::LayoutDirection direction)
 
 void OptionsForm::SetEnabled(bool enabled)
 {
-    for (QWidget* control : m_editor.findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
-        control->setEnabled(enabled);
+    for (QWidget* control : m_editor.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        if (!control->isWindow()) // a dialog that is open can still be left
+            control->setEnabled(enabled);
+    }
 }
 
 void OptionsForm::KeepCaptionWithoutGroup()

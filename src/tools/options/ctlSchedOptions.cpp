@@ -226,6 +226,8 @@ void ctlSchedOptions::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LayoutDirectionChange)
         m_form.Mirror(layoutDirection());
+    if (event->type() == QEvent::FontChange)
+        m_form.FitInto(size());
     ToolControl::changeEvent(event);
 }
 

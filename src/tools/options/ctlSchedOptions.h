@@ -162,6 +162,7 @@ private:
     int SavedTemplateID(const QString& fileName) const;
     Place CurrentPlace() const;
     void ReturnTo(const Place& place);
+    void Reselect(const Place& place);
     void UnloadUserControl();
     void cmdApply_Click();
     void cmdOK_Click();

@@ -1,5 +1,6 @@
 // Saving a template under a new name.
 
+#include "common/Blanks.h"
 #include "common/Module1.h"
 #include "common/StringNumbers.h"
 #include "common/XmlDocument.h"
@@ -26,7 +27,8 @@ QString AttributeOf(const XmlNode& node, const QString& name)
 
 void AddCategories(frmSaveAs& dialog, const QString& categories)
 {
-    for (const XmlNode& category : XmlDocument::FromText(categories).Select(QStringLiteral("//Category")))
+    const auto document = XmlDocument::FromText(categories);
+    for (const XmlNode& category : document.Select(QStringLiteral("//Category")))
         dialog.AddCategory(QStringLiteral("%1 (%2)").arg(AttributeOf(category, QStringLiteral("name")),
                                                          AttributeOf(category, QStringLiteral("displayname"))));
 }
@@ -37,13 +39,13 @@ void AddCategories(frmSaveAs& dialog, const QString& categories)
 int ctlSchedOptions::SaveTemplateAs(WrittenTemplate* saved)
 {
     return Guarded(__func__, static_cast<int>(kStopped), [&] {
-        if (!m_state.currentTemplate)
+        const auto current = m_state.currentTemplate;
+        if (!current)
             return static_cast<int>(kStopped);
         auto written = AskForName();
         if (!written)
             return static_cast<int>(kStopped);
-        const auto held = m_state.currentTemplate;
-        written->xml = Written(*held).xml;
+        written->xml = Written(*current).xml;
         if (written->xml.isEmpty())
             return static_cast<int>(kStopped);
         const QString text = FileText(*written, false);
@@ -57,13 +59,11 @@ int ctlSchedOptions::SaveTemplateAs(WrittenTemplate* saved)
 /// Shows the dialog until the user cancels or there is nothing to be said against what he chose.
 std::optional<ctlSchedOptions::WrittenTemplate> ctlSchedOptions::AskForName()
 {
-    const QPointer<QWidget> alive(this);
     const QPointer dialog = new frmSaveAs(Ui(), this);
     const auto unload = qScopeGuard([&] { delete dialog; });
     FillDialog(*dialog);
     for (;;) {
-        dialog->exec();
-        RequireAlive(alive);
+        WhileActive([&] { return dialog->exec(); });
         if (!dialog || !dialog->OK())
             return std::nullopt;
         const WrittenTemplate chosen{
@@ -94,8 +94,8 @@ QString ctlSchedOptions::ObjectionTo(const WrittenTemplate& chosen) const
 {
     if (!TemplateFolder(m_builderPath).Holds(chosen.fileName))
         return ComponentText("A file in the template folder cannot have this name.");
-    const auto known = Catalogue().Item(chosen.name);
-    if (known && known->Filename().compare(chosen.fileName, Qt::CaseInsensitive) != 0)
+    const auto known = Catalogue().Item(TrimmedOfBlanks(chosen.name));
+    if (known && known->Filename() != chosen.fileName)
         return ComponentText("There is a template of this name already, in a file of another name.");
     return {};
 }

@@ -214,14 +214,19 @@ ctlSchedOptions::Place ctlSchedOptions::CurrentPlace() const
 
 void ctlSchedOptions::ReturnTo(const Place& place)
 {
+    Reselect(place);
+    m_form.lstGroups->verticalScrollBar()->setValue(place.groupsTop); // selecting has scrolled
+    m_form.lstItems->verticalScrollBar()->setValue(place.itemsTop);
+}
+
+void ctlSchedOptions::Reselect(const Place& place)
+{
     if (!m_state.currentTemplate)
         return;
-    m_form.lstGroups->verticalScrollBar()->setValue(place.groupsTop);
     const auto group = m_state.currentTemplate->Groups().Item(place.group);
     if (!group || m_form.lstGroups->RowOf(group->ID()) < 0)
         return;
     SetCurrentGroup(m_form.lstGroups->RowOf(group->ID()));
-    m_form.lstItems->verticalScrollBar()->setValue(place.itemsTop);
     const auto element = group->Elements().Item(place.item);
     if (!element || m_form.lstItems->RowOf(element->ID()) < 0)
         return;
@@ -253,7 +258,8 @@ void ctlSchedOptions::cmdDelete_Click()
             Tell({LoadResString(kDefaultTemplateWarning), kInformation, title, kDefaultTemplateWarning, shown});
         const MessageBox question{LoadResString(kDeleteTemplateQuestion), kYesNo, title, kDeleteTemplateQuestion,
                                   shown};
-        if (Tell(question) == Answer::Yes && DeleteTemplate())
+        const bool isWanted = Tell(question) == Answer::Yes && current == m_state.currentTemplate;
+        if (isWanted && DeleteTemplate())
             ReloadAndSelect({}, CategoryNameOf(*current));
     });
 }

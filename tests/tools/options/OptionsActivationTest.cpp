@@ -274,7 +274,7 @@ TEST_F(OptionsActivation, AfterDeactivationNothingThatTheUserDoesMeansAnything)
     EXPECT_EQ(Log(), "");
 }
 
-TEST_F(OptionsActivation, DeactivationBeforeAnActivationIsFine)
+TEST_F(OptionsActivation, AfterAnEarlyDeactivationTheFirstActivationIsAsEver)
 {
     editor->IToolUI_Deactivate(false);
     Initialize();
@@ -282,6 +282,7 @@ TEST_F(OptionsActivation, DeactivationBeforeAnActivationIsFine)
     host.sent.clear();
     editor->IToolUI_Activate();
     EXPECT_EQ(Log(), kRequests);
+    EXPECT_EQ(Screen(), kPumpsShown);
 }
 
 TEST_F(OptionsActivation, AnEditorThatIsInitialisedAnewLosesItsCatalogue)

@@ -169,7 +169,7 @@ TEST_F(OptionsApply, TheNameInTheListIsTheRoots)
 TEST_F(OptionsApply, ATextThatIsBlankEndsTheSave)
 {
     for (const char* root : {"Name=' ' DisplayName='D' Category='C'", "Name='N' DisplayName='' Category='C'",
-                             "Name='N' DisplayName='D' Category='&#9;'", "Name='N' DisplayName='D'"})
+                             "Name='N' DisplayName='D' Category='  '", "Name='N' DisplayName='D'"})
     {
         editor = std::make_unique<ctlSchedOptions>(&watched);
         StartWith(root);
@@ -188,26 +188,36 @@ TEST_F(OptionsApply, AFolderThatIsNotKnownEndsTheSave)
     Edit();
     host.replies["GETBUILDERPATH"] = "  ";
     Apply();
-    ASSERT_EQ(Boxes(), "");
     Forget();
     const std::string before = Content("pumps.xml");
     Edit();
+    user.answers = {Answer::Yes};
     Apply();
     EXPECT_EQ(Log(), MissingError(3073, "ApplyChanges"));
     EXPECT_EQ(Content("pumps.xml"), before);
     EXPECT_TRUE(IsDirty());
 }
 
-TEST_F(OptionsApply, AHostThatDeactivatesTheEditorBeforeTheSaveEndsIt)
+/// The host lets the user apply while it is asked, and has nothing more to show then.
+TEST_F(OptionsApply, WithoutACurrentTemplateNothingIsSaved)
 {
     Start();
     Edit();
-    WriteFile("pumps.xml", "<Template/>");
-    user.answers = {Answer::Yes};
-    watched.whileOpen = [this] { editor->IToolUI_Deactivate(true); };
-    Apply();
-    EXPECT_EQ(Log(), MissingError(3071, "ApplyChanges"));
-    EXPECT_EQ(Content("pumps.xml"), "<Template/>");
+    WhenAsked({Enter("New")});
+    inside = [this](const QString& name) {
+        if (name != "GETTEMPLATECATEGORIES")
+            return;
+        inside = nullptr;
+        const auto before = std::exchange(host.sent, {});
+        host.replies["GETCURRENTSCHEDTEMPLATE"] = "none.xml";
+        Unlist("rooms.xml");
+        user.answers = {Answer::Yes};
+        Click("cmdDelete");
+        host.sent = before;
+    };
+    Click("cmdSaveAs");
+    EXPECT_EQ(Log(), Requests({kAskCategories}) + '\n' + MissingError(3071, "SaveTemplateAs"));
+    EXPECT_EQ(FolderFiles(), "fans.xml rooms.xml");
 }
 
 /// In the file quotation marks stand as they are; written, each takes six characters, and the tag becomes too long.
@@ -308,137 +318,6 @@ TEST_F(OptionsApply, EditsThatWereLeftBehindAreToldButNotSaved)
     Click("cmdOK");
     EXPECT_EQ(Log(), Requests({SetCurrent(kSavedPumps.toStdString(), "pumps.xml")}) + '\n' + kUnload);
     EXPECT_EQ(Content("pumps.xml"), before);
-}
-
-// Asking before something is lost.
-
-TEST_F(OptionsApply, AFileThatWasReadInPartIsReplacedAfterAYes)
-{
-    const QByteArray partial = "<Template Name='Pumps' DisplayName='D' Category='C'><Group Name='Design' "
-                               "DisplayName='Design' ShowThisGroup='-1'/><Group/><Group Name='Lost'/></Template>";
-    WriteFile("pumps.xml", partial);
-    Start();
-    Edit();
-    user.answers = {Answer::No};
-    Apply();
-    EXPECT_EQ(Boxes(), "The file of this template could only be read in part. Saving it drops what could not be read. "
-                       "Save? (36) Missing: 1014");
-    EXPECT_EQ(Log(), "");
-    EXPECT_EQ(Content("pumps.xml"), partial.toStdString());
-    EXPECT_TRUE(IsDirty());
-    user.answers = {Answer::No};
-    Click("cmdOK");
-    EXPECT_EQ(Log(), "");
-    user.answers = {Answer::Yes};
-    Apply();
-    EXPECT_EQ(Content("pumps.xml"), "<Template Name=\"Pumps\" DisplayName=\"D\" Category=\"C\"><Group Name=\"Design\" "
-                                    "DisplayName=\"Design\" ShowThisGroup=\"0\"/></Template>");
-    EXPECT_FALSE(IsDirty());
-}
-
-TEST_F(OptionsApply, AFileThatWasChangedMeanwhileIsReplacedAfterAYes)
-{
-    Start();
-    Edit();
-    WriteFile("pumps.xml", "<Template Name='By somebody else'/>");
-    user.answers = {Answer::No, Answer::Yes};
-    Apply();
-    EXPECT_EQ(Boxes(), "The file of this template was changed after it had been read. Saving it drops that change. "
-                       "Save? (36) Missing: 1014");
-    EXPECT_EQ(Log(), "");
-    EXPECT_EQ(Content("pumps.xml"), "<Template Name='By somebody else'/>");
-    EXPECT_TRUE(IsDirty());
-    Apply();
-    EXPECT_EQ(Content("pumps.xml"), kSavedPumps.toStdString());
-}
-
-TEST_F(OptionsApply, AFileThatIsGoneMeanwhileIsWrittenAgain)
-{
-    Start();
-    Edit();
-    ASSERT_TRUE(QFile::remove(PathOf("pumps.xml")));
-    Apply();
-    EXPECT_EQ(Boxes(), "");
-    EXPECT_EQ(Content("pumps.xml"), kSavedPumps.toStdString());
-}
-
-TEST_F(OptionsApply, TheNextSaveDoesNotAskAgain)
-{
-    Start();
-    Edit();
-    Apply();
-    Edit();
-    Apply();
-    EXPECT_EQ(Boxes(), "");
-    EXPECT_FALSE(IsDirty());
-}
-
-// Protected templates.
-
-TEST_F(OptionsApply, AProtectedTemplateIsSavedUnderANewNameWhichIsTold)
-{
-    host.replies["GETCURRENTSCHEDTEMPLATE"] = "rooms.xml";
-    Start();
-    const std::string before = Content("rooms.xml");
-    Edit();
-    WhenAsked({Enter("New rooms")});
-    Apply();
-    const std::string saved = "<Template Name=\"New rooms\" DisplayName=\"New rooms\" Category=\"PUMPS\" "
-                              "AllowEdit=\"-1\"><Group Name=\"Room\" DisplayName=\"Room\" ShowThisGroup=\"0\">"
-                              "<Item Name=\"Area\" DisplayName=\"Area\" ShowThisItem=\"-1\"><Location/></Item></Group>"
-                              "</Template>";
-    EXPECT_EQ(Content("New rooms.xml"), saved);
-    EXPECT_EQ(Content("rooms.xml"), before);
-    EXPECT_TRUE(HostList().endsWith("<Template pdsg=\"p3\" name=\"New rooms\" filename=\"New rooms.xml\" "
-                                    "defaultforcategory=\"False\" readonly=\"False\"/></Templates>"));
-    EXPECT_EQ(Log(), Requests(QStringList{kAskCategories} + Saving(HostList()) +
-                              QStringList{SetCurrent(saved, "New rooms.xml")}));
-    EXPECT_EQ(Current(), "Missing: 3077  New rooms");
-}
-
-TEST_F(OptionsApply, CancelInTheDialogKeepsTheEditorOpenAndDirty)
-{
-    host.replies["GETCURRENTSCHEDTEMPLATE"] = "rooms.xml";
-    Start();
-    Edit();
-    WhenAsked({Cancel});
-    Click("cmdOK");
-    EXPECT_EQ(Log(), Requests({kAskCategories}));
-    EXPECT_TRUE(IsDirty());
-}
-
-TEST_F(OptionsApply, AnUnchangedProtectedTemplateIsToldWithoutADialog)
-{
-    host.replies["GETCURRENTSCHEDTEMPLATE"] = "rooms.xml";
-    Start();
-    Click("cmdOK");
-    EXPECT_EQ(Names(), "SETCURRENTSCHEDTEMPLATE UnloadScheduleOptions");
-}
-
-TEST_F(OptionsApply, AProtectedTemplateDoesNotTakeANameThatTheHostLists)
-{
-    host.replies["GETCURRENTSCHEDTEMPLATE"] = "rooms.xml";
-    Start();
-    Edit();
-    host.replies["GETTEMPLATELIST"] = "<Templates><Template name='x' filename='New.xml'/></Templates>";
-    WhenAsked({Enter("New")});
-    Click("cmdOK");
-    EXPECT_EQ(Boxes(), "Missing: 3074 (64) Missing: 1014");
-    EXPECT_EQ(Log(), Requests({kAskCategories, kAskList}));
-    EXPECT_EQ(FolderFiles(), "fans.xml pumps.xml rooms.xml");
-    EXPECT_TRUE(IsDirty());
-}
-
-TEST_F(OptionsApply, AFailureBehindTheDialogBearsItsProcedure)
-{
-    host.replies["GETCURRENTSCHEDTEMPLATE"] = "rooms.xml";
-    Start();
-    Edit();
-    WhenAsked({Enter("New")});
-    host.replies["GETTEMPLATELIST"] = "nonsense";
-    Click("cmdOK");
-    EXPECT_EQ(Log(), Requests({kAskCategories, kAskList}) + '\n' + MissingError(1062, "SaveTemplateAs"));
-    EXPECT_TRUE(IsDirty());
 }
 
 } // namespace schedules::testing

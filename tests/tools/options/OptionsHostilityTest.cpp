@@ -161,19 +161,15 @@ TEST_F(OptionsHostility, AHostMayDeactivateAndActivateTheEditorInEachMessage)
 
 TEST_F(OptionsHostility, AHostMayInitialiseTheEditorAgainInEachMessage)
 {
-    bool isFirst = true;
-    InEveryLife([&] {
-        if (std::exchange(isFirst, false))
-            Initialize();
-        isFirst = true;
-    });
+    InEveryLife([this] { Initialize(); });
 }
 
 TEST_F(OptionsHostility, AHostMayLetTheUserPressEverythingInEachMessage)
 {
     InEveryLife([this] {
-        if (Groups().Count() > 0)
-            MarkGroup(Groups().Text(0));
+        if (!IsEnabled("cmdDelete")) // a protected template would be saved under a name that the user is asked for
+            return;
+        Edit();
         for (const char* button : {"cmdCancel", "cmdOK", "cmdApply"})
             Click(button);
     });
@@ -201,7 +197,6 @@ TEST_F(OptionsHostility, AHostMayAnswerNonsenseToEachMessage)
 
 TEST_F(OptionsHostility, ADeactivatedEditorDoesNotComeBackInAnyMessage)
 {
-    InEveryLife([this] { editor->IToolUI_Deactivate(false); });
     for (const char* name : {"GETTEMPLATELIST", "GETBUILDERPATH", "GETTEMPLATECATEGORIES", "GETCURRENTSCHEDTEMPLATE"}) {
         editor = std::make_unique<ctlSchedOptions>(&user);
         Initialize();

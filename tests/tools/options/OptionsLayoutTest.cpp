@@ -16,13 +16,12 @@ struct Setting
 {
     const char* language;
     Qt::LayoutDirection direction;
-    int pointsMore;
 };
 
 std::string NameOf(const ::testing::TestParamInfo<Setting>& info)
 {
-    const auto& [language, direction, pointsMore] = info.param;
-    return std::string(language) + (direction == Qt::RightToLeft ? "Mirrored" : "") + (pointsMore ? "Large" : "");
+    const auto& [language, direction] = info.param;
+    return std::string(language) + (direction == Qt::RightToLeft ? "Mirrored" : "");
 }
 
 /// The letter behind the ampersand of a text; null when there is none.
@@ -43,13 +42,7 @@ QString TextOf(const QWidget& control)
 class OptionsLayout : public OptionsTest, public ::testing::WithParamInterface<Setting>
 {
 protected:
-    OptionsLayout() : module(LanguageFile(GetParam().language))
-    {
-        QFont font = editor->font();
-        font.setPointSizeF(font.pointSizeF() + GetParam().pointsMore);
-        editor->setFont(font);
-        editor->setLayoutDirection(GetParam().direction);
-    }
+    OptionsLayout() : module(LanguageFile(GetParam().language)) { editor->setLayoutDirection(GetParam().direction); }
 
     std::vector<QWidget*> Controls() const
     {
@@ -63,13 +56,33 @@ protected:
 
     QRect PlaceOf(const QWidget& control) const { return {control.mapTo(editor.get(), QPoint()), control.size()}; }
 
+    void ExpectWholeOn(QSize size) const
+    {
+        editor->resize(size);
+        QApplication::processEvents();
+        for (const QWidget* each : Controls()) {
+            if (each->isVisible())
+                ExpectWhole(*each);
+        }
+    }
+
+    void ExpectWhole(const QWidget& control) const
+    {
+        const bool isElided = control.sizePolicy().horizontalPolicy() == QSizePolicy::Ignored;
+        const QSize least = control.minimumSizeHint();
+        EXPECT_TRUE(editor->rect().contains(PlaceOf(control))) << control.objectName().toStdString();
+        EXPECT_GE(control.width(), isElided ? 0 : least.width()) << control.objectName().toStdString();
+        EXPECT_GE(control.height(), control.minimumHeight() > 0 ? control.minimumHeight() : least.height())
+            << control.objectName().toStdString();
+    }
+
     ModuleInUse module;
 };
 
 INSTANTIATE_TEST_SUITE_P(All, OptionsLayout,
-                         ::testing::Values(Setting{"en", Qt::LeftToRight, 0}, Setting{"de", Qt::LeftToRight, 0},
-                                           Setting{"fr", Qt::LeftToRight, 0}, Setting{"de", Qt::RightToLeft, 0},
-                                           Setting{"fr", Qt::RightToLeft, 0}),
+                         ::testing::Values(Setting{"en", Qt::LeftToRight}, Setting{"de", Qt::LeftToRight},
+                                           Setting{"fr", Qt::LeftToRight}, Setting{"de", Qt::RightToLeft},
+                                           Setting{"fr", Qt::RightToLeft}),
                          NameOf);
 
 TEST_P(OptionsLayout, HasRoomOn480By360)
@@ -85,16 +98,41 @@ TEST_P(OptionsLayout, ShowsAllControlsWholeOn480By360)
     Start();
     ClickGroup("Design");
     ClickItem("*Duty note");
-    editor->resize(480, 360);
-    QApplication::processEvents();
-    for (const QWidget* each : Controls()) {
-        if (!each->isVisible())
-            continue;
-        EXPECT_TRUE(editor->rect().contains(PlaceOf(*each))) << each->objectName().toStdString();
-        if (each->sizePolicy().horizontalPolicy() != QSizePolicy::Ignored) {
-            EXPECT_GE(each->width(), each->minimumSizeHint().width()) << each->objectName().toStdString();
-        }
-        EXPECT_GE(each->height(), each->minimumSizeHint().height()) << each->objectName().toStdString();
+    ExpectWholeOn({480, 360});
+}
+
+TEST_P(OptionsLayout, ShowsAllControlsWholeInAnyScale)
+{
+    Start();
+    QFont font = editor->font();
+    for (const double scale : {1.25, 1.5, 2.0}) {
+        QFont scaled = font;
+        scaled.setPointSizeF(font.pointSizeF() * scale);
+        editor->setFont(scaled);
+        ExpectWholeOn(QSize(480, 360) * scale);
+    }
+}
+
+TEST_P(OptionsLayout, LeavesRoomForANameInAnySize)
+{
+    Start();
+    for (const QSize size : {QSize(480, 360), QSize(640, 480), QSize(800, 600), QSize(1200, 400), QSize(1600, 900)}) {
+        editor->resize(size);
+        QApplication::processEvents();
+        EXPECT_GE(NameBox().width(), 20 * editor->fontMetrics().averageCharWidth()) << size.width();
+    }
+}
+
+TEST_P(OptionsLayout, LeavesOutWhatExplainsWhereThereIsLittleRoom)
+{
+    Start();
+    for (const char* name :
+         {"Label2", "lblTemplFileName", "templateFileName", "lblGroupName", "groupName", "lblLegend", "lblDisplayName"})
+    {
+        editor->resize(480, 360);
+        EXPECT_FALSE(Find<QWidget>(name)->isVisible()) << name;
+        editor->resize(640, 480);
+        EXPECT_TRUE(Find<QWidget>(name)->isVisible()) << name;
     }
 }
 
@@ -137,6 +175,7 @@ TEST_P(OptionsLayout, RunsInTheDirectionOfTheText)
     EXPECT_TRUE(isBefore(*Find<QWidget>("cmdSaveAs"), *Find<QWidget>("cmdDelete")));
     EXPECT_TRUE(isBefore(*Find<QWidget>("cmdOK"), *Find<QWidget>("cmdApply")));
     EXPECT_TRUE(isBefore(*Find<QWidget>("lblDisplayName"), NameBox()));
+    EXPECT_TRUE(isBefore(*Find<QWidget>("cmdUpdateUDItemName"), *Find<QWidget>("cmdResetUDItemName")));
 }
 
 TEST_P(OptionsLayout, AccessKeysDoNotCollide)
@@ -196,10 +235,10 @@ TEST_P(OptionsLayout, TabGoesThroughAllControlsInTheOrderOfReading)
         names += QApplication::focusWidget()->objectName() + QApplication::focusWidget()->property("index").toString();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }
-    EXPECT_EQ(
-        names.join(' ').toStdString(),
-        "cboTemplates lstGroups cmdGroupMove0 cmdGroupMove1 chkShowGroupName lstItems cmdItemMove0 txtDisplayName "
-        "cmdUpdateUDItemName cmdResetUDItemName cmdSaveAs cmdDelete cmdOK cmdCancel cmdApply cboTemplates");
+    EXPECT_EQ(names.join(' ').toStdString(),
+              "cboTemplates cmdSaveAs cmdDelete lstGroups cmdGroupMove0 cmdGroupMove1 chkShowGroupName lstItems "
+              "cmdItemMove0 txtDisplayName "
+              "cmdUpdateUDItemName cmdResetUDItemName cmdOK cmdCancel cmdApply cboTemplates");
 }
 
 TEST_P(OptionsLayout, AnAccessKeyBringsTheFocusToItsControl)

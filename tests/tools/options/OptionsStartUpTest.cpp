@@ -236,12 +236,27 @@ TEST_F(OptionsTexts, AreEnglish)
 
 TEST_F(OptionsTexts, AreGerman)
 {
-    EXPECT_EQ(TextsIn("de"), "");
+    EXPECT_EQ(
+        TextsIn("de"),
+        "&Vorlage:\nG&ruppen:\n&Datenelemente:\nDateiname der Vorlage:\n"
+        "Aktivieren Sie die Gruppen und Datenelemente, die die Liste anzeigen soll.\n&Gruppenname anzeigen\nGruppe\n"
+        "Gruppenname:\n(*) Benutzerdefiniertes Datenelement\nBenutzerdefiniertes Datenelement:\nAnzeigename:\n"
+        "Aktualisieren\nZurücksetzen\n&Speichern unter…\n&Löschen\nOK\nAbbrechen\nÜ&bernehmen\n"
+        "Auf / Gruppe nach oben verschieben\nAb / Gruppe nach unten verschieben\n"
+        "Auf / Datenelement nach oben verschieben\nAb / Datenelement nach unten verschieben");
 }
 
 TEST_F(OptionsTexts, AreFrench)
 {
-    EXPECT_EQ(TextsIn("fr"), "");
+    EXPECT_EQ(
+        TextsIn("fr"),
+        "&Modèle\u00A0:\nG&roupes\u00A0:\n&Données\u00A0:\nNom du fichier du modèle\u00A0:\n"
+        "Cochez les groupes et les données que la nomenclature doit afficher.\nAfficher le nom du &groupe\nGroupe\n"
+        "Nom du groupe\u00A0:\n(*) Élément de données personnalisé\nÉlément de données personnalisé\u00A0:\nNom "
+        "affiché\u00A0:\n"
+        "Mettre à jour\nRétablir\n&Enregistrer sous…\n&Supprimer\nOK\nAnnuler\nA&ppliquer\n"
+        "Monter / Déplacer le groupe vers le haut\nDescendre / Déplacer le groupe vers le bas\n"
+        "Monter / Déplacer la donnée vers le haut\nDescendre / Déplacer la donnée vers le bas");
 }
 
 TEST_F(OptionsTexts, OfTheCurrentTemplateAndGroupAreTranslated)

@@ -185,7 +185,8 @@ protected:
     void Turn()
     {
         KnownGroup().showsName ^= true, isDirty = true;
-        Click("chkShowGroupName");
+        Find<QCheckBox>("chkShowGroupName")->setFocus();
+        QTest::keyClick(Find<QCheckBox>("chkShowGroupName"), Qt::Key_Space);
     }
 
     void Switch()

@@ -50,7 +50,11 @@ protected:
                 inside(name);
         };
     }
-    ~SavingTest() override { editor.reset(); }
+    ~SavingTest() override
+    {
+        editor.reset();
+        EXPECT_EQ(AskNoMore(), 0) << "the dialog was not shown";
+    }
 
     // The host.
 
@@ -68,7 +72,8 @@ protected:
     void Unlist(const QString& fileName)
     {
         QStringList kept;
-        for (const XmlNode& entry : XmlDocument::FromText(HostList()).Select("//Template")) {
+        const auto list = XmlDocument::FromText(HostList());
+        for (const XmlNode& entry : list.Select("//Template")) {
             if (entry.Attribute("filename") != fileName)
                 kept += entry.ToText();
         }
@@ -81,7 +86,8 @@ protected:
     std::string Listed() const
     {
         QStringList listed;
-        for (const XmlNode& entry : XmlDocument::FromText(HostList()).Select("//Template"))
+        const auto list = XmlDocument::FromText(HostList());
+        for (const XmlNode& entry : list.Select("//Template"))
             listed += entry.Attribute("name") + '=' + entry.Attribute("filename");
         return listed.join(' ').toStdString();
     }
@@ -117,8 +123,8 @@ protected:
 
     static QString SetCurrent(const std::string& xml, const QString& fileName)
     {
-        return "SETCURRENTSCHEDTEMPLATE 0 0 [4 TemplateXML=" + QString::fromStdString(xml) + "] [2 TemplateFile=" +
-               fileName + ']';
+        return "SETCURRENTSCHEDTEMPLATE 0 0 [4 TemplateXML=" + QString::fromStdString(xml) +
+               "] [2 TemplateFile=" + fileName + ']';
     }
 
     static std::string ErrorOf(const QString& description, const char* procedure,
@@ -137,10 +143,12 @@ protected:
 
     // The folder.
 
-    QString FolderFiles() const
+    std::string FolderFiles() const
     {
-        return QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot)
-            .join(' ');
+        const auto all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+        QStringList names = QDir(folder.path()).entryList(all);
+        names.sort();
+        return names.join(' ').toStdString();
     }
 
     /// A file read into a new template, its groups drawn.
@@ -151,6 +159,12 @@ protected:
         read.SetFilename(fileName);
         EXPECT_TRUE(read.XMLToObject()) << fileName.toStdString();
         return DrawnGroups(read.ObjectToXML());
+    }
+
+    std::string RootAttribute(const QString& fileName, const QString& name) const
+    {
+        const auto document = XmlDocument::FromText(QString::fromStdString(Content(fileName)));
+        return document.Root().Attribute(name).toStdString();
     }
 
     // The user.
@@ -182,17 +196,26 @@ protected:
         });
     }
 
-    /// What a key types is sent as its text, since a name may have characters without a key.
+    /// Forgets what was to be done in dialogs; how much that was.
+    static int AskNoMore()
+    {
+        int waiting = 0;
+        for (QTimer* const each : qApp->findChildren<QTimer*>(Qt::FindDirectChildrenOnly)) {
+            waiting += each->isActive() ? 1 : 0;
+            delete each;
+        }
+        return waiting;
+    }
+
+    /// As an input method types it: a name may have characters without a key.
     static void TypeInto(frmSaveAs& dialog, const char* box, const QString& text)
     {
         auto* const field = dialog.findChild<QLineEdit*>(box);
         field->setFocus();
         field->selectAll();
         QTest::keyClick(field, Qt::Key_Delete);
-        for (const QChar character : text) {
-            QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(character));
-            QApplication::sendEvent(field, &press);
-        }
+        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, text);
+        QApplication::sendEvent(field, &press);
     }
 
     static void PressIn(frmSaveAs& dialog, const char* button)
