@@ -127,6 +127,7 @@ TEST_F(OptionsDelete, ThenTheCategorysDefaultIsCurrent)
     host.onSend = [this](const QString& name) {
         Follow(name);
         host.replies["GETCURRENTSCHEDTEMPLATE"] = "b.xml";
+        host.replies["GETTEMPLATECATEGORIES"].replace("name='PUMPS'", "name='pumps'");
     };
     Delete();
     EXPECT_EQ(Current(), "Missing: 3077  d");
@@ -317,17 +318,18 @@ TEST_F(OptionsDelete, ALinkToNothingIsDeleted)
     EXPECT_EQ(FolderFiles(), "fans.xml pumps.xml rooms.xml");
 }
 
-TEST_F(OptionsDelete, WhatTheHostReplacesWhileItAsksIsNotDeleted)
+TEST_F(OptionsDelete, OnlyWhatWasAskedAboutIsDeleted)
 {
     Start();
     watched.whileOpen = [this] {
         watched.whileOpen = nullptr;
-        user.answers.push_back(Answer::Yes);
         Click("cmdDelete");
         Forget();
     };
+    user.answers = {Answer::Yes, Answer::Yes};
     Click("cmdDelete");
-    EXPECT_EQ(FolderFiles(), "fans.xml rooms.xml") << "only one was asked about";
+    EXPECT_TRUE(user.answers.empty());
+    EXPECT_EQ(FolderFiles(), "fans.xml rooms.xml");
     EXPECT_EQ(Log(), "");
 }
 
