@@ -127,7 +127,6 @@ TEST_F(OptionsDelete, ThenTheCategorysDefaultIsCurrent)
     host.onSend = [this](const QString& name) {
         Follow(name);
         host.replies["GETCURRENTSCHEDTEMPLATE"] = "b.xml";
-        host.replies["GETTEMPLATECATEGORIES"].replace("name='PUMPS'", "name='pumps'");
     };
     Delete();
     EXPECT_EQ(Current(), "Missing: 3077  d");

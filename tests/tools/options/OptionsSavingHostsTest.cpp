@@ -203,6 +203,7 @@ TEST(OptionsSavingHosts, MayDoAnythingWhileTheDialogIsOpen)
                               Stage::Leave});
             stage.Click("cmdSaveAs");
             EXPECT_TRUE(deed == Deed::Activate || !QFile::exists(stage.PathOf("New.xml")));
+            EXPECT_TRUE(deed == Deed::Activate || stage.user.boxes.empty());
         }
     }
 }
