@@ -1,19 +1,22 @@
 #include "common/FileReplacement.h"
 
+#include "support/FileSizeLimit.h"
+#include "support/OrdinaryUser.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 
-#include <csignal>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/mount.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 using namespace schedules;
+using schedules::testing::FileSizeLimit;
+using schedules::testing::OrdinaryUser;
 
 namespace {
 
@@ -48,42 +51,6 @@ struct ReplaceFileTest : ::testing::Test
     QStringList Files() const { return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden | QDir::System); }
 
     QTemporaryDir folder;
-};
-
-/// A limit on the size of files stands for a disk that takes no more.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes) : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    Q_DISABLE_COPY_MOVE(FileSizeLimit)
-
-private:
-    void (*m_handler)(int);
-    rlimit m_before{};
-};
-
-/// Someone who may not write everywhere, as long as it lives.
-class OrdinaryUser
-{
-public:
-    OrdinaryUser() : m_before(::geteuid()) { EXPECT_TRUE(m_before != 0 || ::seteuid(kNobody) == 0); }
-    ~OrdinaryUser() { EXPECT_TRUE(m_before != 0 || ::seteuid(m_before) == 0); }
-    Q_DISABLE_COPY_MOVE(OrdinaryUser)
-
-private:
-    static constexpr uid_t kNobody = 65534;
-
-    uid_t m_before;
 };
 
 /// A file system of 64 KiB, as long as it lives.

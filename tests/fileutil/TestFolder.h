@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/OrdinaryUser.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QTemporaryDir>
@@ -82,20 +84,6 @@ private:
     }
 
     QTemporaryDir m_folder;
-};
-
-/// Someone who may not read everything, as long as it lives.
-class OrdinaryUser
-{
-public:
-    OrdinaryUser() : m_before(::geteuid()) { EXPECT_TRUE(m_before != 0 || ::seteuid(kNobody) == 0); }
-    ~OrdinaryUser() { EXPECT_TRUE(m_before != 0 || ::seteuid(m_before) == 0); }
-    Q_DISABLE_COPY_MOVE(OrdinaryUser)
-
-private:
-    static constexpr uid_t kNobody = 65534;
-
-    uid_t m_before;
 };
 
 } // namespace schedules::testing

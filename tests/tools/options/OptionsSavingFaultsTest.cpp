@@ -2,6 +2,7 @@
 
 #include "SavingTest.h"
 #include "support/FileSizeLimit.h"
+#include "support/OrdinaryUser.h"
 
 #include <gmock/gmock.h>
 #include <sys/stat.h>
@@ -11,24 +12,6 @@ namespace schedules::testing {
 
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
-
-namespace {
-
-/// Someone who may not write everywhere, as long as it lives.
-class OrdinaryUser
-{
-public:
-    OrdinaryUser() : m_before(::geteuid()) { EXPECT_TRUE(m_before != 0 || ::seteuid(kNobody) == 0); }
-    ~OrdinaryUser() { EXPECT_TRUE(m_before != 0 || ::seteuid(m_before) == 0); }
-    Q_DISABLE_COPY_MOVE(OrdinaryUser)
-
-private:
-    static constexpr uid_t kNobody = 65534;
-
-    uid_t m_before;
-};
-
-} // namespace
 
 class OptionsSavingFaults : public SavingTest
 {
