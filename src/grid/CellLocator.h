@@ -28,6 +28,9 @@ public:
     /// Nothing for a place without an element: one that a comment or stray text takes, or beyond the table.
     std::optional<CellSpan> Find(Sheet::TablePlace place) const;
 
+    /// Whether there is such an element and it says that its cell may be edited.
+    bool AllowsEdit(Sheet::TablePlace place) const;
+
     /// The places of the elements that begin there.
     std::set<Sheet::TablePlace> PlacesOf(const std::set<std::uint32_t>& starts) const;
 
@@ -38,12 +41,15 @@ private:
     {
         Sheet::TablePlace place;
         CellSpan span;
+        bool allowEdit = false;
     };
+
+    const Entry* EntryAt(Sheet::TablePlace place) const;
 
     std::vector<Entry> m_entries; ///< by place
 };
 
-/// Reads a schedule and notes where the elements of its cells are.
+/// Reads a schedule and notes where the elements of its cells are, and which of them may be edited.
 class CellLocator : public ScheduleReader
 {
 public:
@@ -56,6 +62,7 @@ public:
 
 private:
     CellSpans m_spans;
+    CellAttributesReader m_attributes;
     std::vector<std::size_t> m_open; ///< by open element the number of its entry, or `kNoCell`
 };
 

@@ -64,10 +64,10 @@ TEST_F(CheckBoxTest, OneThatMayNotBeEditedDoesNotReact)
     EXPECT_FALSE(Dirty());
 }
 
-TEST_F(CheckBoxTest, DoesNotReactBetweenNewTextAndItsActivation)
+TEST_F(CheckBoxTest, DoesNotReactBetweenATextThatDoesNotAllowItAndItsActivation)
 {
     ShowBoxes();
-    view.IToolUI_XML(kBoxes);
+    view.IToolUI_XML(kOtherSchedule);
     ClickCell(1, 1);
     Key(Qt::Key_Space);
     EXPECT_EQ(TextAt(1, 1), "1");

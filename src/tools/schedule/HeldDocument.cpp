@@ -44,6 +44,11 @@ QString HeldDocument::Text() const
     return decoder(edited);
 }
 
+bool HeldDocument::AllowsEdit(Sheet::TablePlace place) const
+{
+    return Open() && m_spans->AllowsEdit(place);
+}
+
 bool HeldDocument::SetCellText(Sheet::TablePlace place, const QString& text)
 {
     const auto span = Open() ? m_spans->Find(place) : std::nullopt;
@@ -58,7 +63,7 @@ bool HeldDocument::SetCellText(Sheet::TablePlace place, const QString& text)
     return true;
 }
 
-bool HeldDocument::Open()
+bool HeldDocument::Open() const
 {
     if (m_spans)
         return true;

@@ -30,6 +30,9 @@ public:
     /// Gives the element at that place of the table a text and marks it as dirty. False when there is no such element.
     bool SetCellText(Sheet::TablePlace place, const QString& text);
 
+    /// Whether there is an element at that place that says that it may be edited. Takes as long as a first edit.
+    bool AllowsEdit(Sheet::TablePlace place) const;
+
     /// Whether the element at that place stood in one that has been edited since, and so is gone.
     bool HasLost(Sheet::TablePlace place) const;
 
@@ -48,16 +51,16 @@ private:
         QByteArray element;
     };
 
-    bool Open();
+    bool Open() const;
     bool LiesInEdited(const CellSpan& span) const;
     std::set<std::uint32_t> StartsOfUnsaved() const;
     void FindUnsaved(const std::set<std::uint32_t>& starts);
 
     int m_number = 0;
     QString m_text;
-    std::optional<CellSpans> m_spans;      ///< once opened
-    QByteArray m_utf8;                     ///< the text as the spans count
-    std::map<std::uint32_t, Edit> m_edits; ///< by where they start; none within another
+    mutable std::optional<CellSpans> m_spans; ///< once opened
+    mutable QByteArray m_utf8;                ///< the text as the spans count
+    std::map<std::uint32_t, Edit> m_edits;    ///< by where they start; none within another
     std::set<Sheet::TablePlace> m_unsaved;
     bool m_losesCells = false; ///< an edited cell held others
 };

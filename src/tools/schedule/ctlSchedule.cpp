@@ -182,7 +182,8 @@ void ctlSchedule::Activate()
     BeginCommand();
     ShowCommandButtons();
     StartNormalLayout(IsSelectorView() ? kOfTags : kOfSchedule);
-    if (std::exchange(m_xmlIsNew, false))
+    // Fresh text that has been edited since it came is not left behind by its own activation.
+    if (std::exchange(m_xmlIsNew, false) && m_held.Unsaved().empty())
         LeaveFormerXml();
     if (!ShowHeldXml())
         return;

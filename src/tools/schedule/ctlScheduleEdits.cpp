@@ -4,11 +4,14 @@
 
 namespace schedules {
 
-/// Between a new document and its activation the cells on screen are those of another one; and a cell that stood inside
-/// of one that has been edited is gone.
+/// Between a new document and its activation the cells on screen are those of another one, and the new one is asked: it
+/// may be fresh text for the same table. A cell that stood inside of one that has been edited is gone.
 bool ctlSchedule::MayEdit(Cell cell) const
 {
-    return IsScheduleView() && m_sheet && !m_xmlIsNew && !m_held.HasLost(m_sheet->TablePlaceOf(cell));
+    if (!IsScheduleView() || !m_sheet)
+        return false;
+    const Sheet::TablePlace place = m_sheet->TablePlaceOf(cell);
+    return !m_held.HasLost(place) && (!m_xmlIsNew || m_held.AllowsEdit(place));
 }
 
 void ctlSchedule::ChangeCell(Cell cell, const QString& text)
@@ -19,9 +22,9 @@ void ctlSchedule::ChangeCell(Cell cell, const QString& text)
         SetEdited(cell, true);
     });
     SetTagDataDirty(true);
-    // An edit that was open when another document came has lost its element.
+    // An edit that was open when another document came may have lost its element.
     IgnoringErrors([&] {
-        if (!m_xmlIsNew)
+        if (MayEdit(cell))
             m_held.SetCellText(m_sheet->TablePlaceOf(cell), text);
     });
 }
