@@ -138,6 +138,17 @@ EditorOptions Editor(const QCommandLineParser& parser)
             .rightToLeft = parser.isSet(QStringLiteral("right-to-left"))};
 }
 
+ProjectOptions OnProject(const QCommandLineParser& parser)
+{
+    const QString tags = parser.value(QStringLiteral("tags"));
+    return {.category = parser.value(QStringLiteral("category")),
+            .tags = tags.isEmpty() ? QStringList() : tags.split(u','),
+            .templateFile = parser.value(QStringLiteral("template")),
+            .asJson = parser.isSet(QStringLiteral("json")),
+            .empty = parser.isSet(QStringLiteral("empty")),
+            .sample = parser.isSet(QStringLiteral("sample"))};
+}
+
 CommandLine Understood(const QCommandLineParser& parser)
 {
     QStringList words = parser.positionalArguments();
@@ -156,6 +167,8 @@ CommandLine Understood(const QCommandLineParser& parser)
             .messages = FileName(parser, QStringLiteral("messages")),
             .render = form == Form::Options ? RenderOptions() : Rendering(parser),
             .editor = form == Form::Options ? Editor(parser) : EditorOptions(),
+            .project = OnProject(parser),
+            .languageChosen = parser.isSet(QStringLiteral("language")),
             .language = OneOf(parser, QStringLiteral("language"), kLanguages),
             .palette = Palette(kPalettes.indexOf(OneOf(parser, QStringLiteral("palette"), kPalettes)))};
 }
@@ -171,6 +184,10 @@ CommandLine Checked(const QCommandLineParser& parser)
         CheckRendering(parser, commandLine);
     if (commandLine.form == Form::Options)
         CheckEditor(commandLine);
+    if (commandLine.form == Form::New)
+        CheckNew(commandLine);
+    if (commandLine.form == Form::Schedule)
+        CheckSchedule(parser, commandLine);
     return commandLine;
 }
 

@@ -19,6 +19,12 @@ enum class Form
     Catalogue,
     Find,
     Options,
+    New,
+    Import,
+    List,
+    Schedule,
+    Get,
+    Set,
     Help,
     Version
 };
@@ -118,14 +124,28 @@ struct EditorOptions
     bool operator==(const EditorOptions&) const = default;
 };
 
+/// What of a project is meant, and how it is told.
+struct ProjectOptions
+{
+    QString category;
+    QStringList tags;     ///< none for all
+    QString templateFile; ///< empty for that which the category's schedule uses
+    bool asJson = false;
+    bool empty = false;  ///< a new project has not even categories
+    bool sample = false; ///< a new project has the sample's tags
+
+    bool operator==(const ProjectOptions&) const = default;
+};
+
 /// What the program was asked to do.
 struct CommandLine
 {
     Form form = Form::Window;
 
-    /// One, or none for the user's copy of the sample; several for `render`. For `catalogue` the list of templates,
-    /// that of categories, and the folder; for `find` the pattern; for `options` the folder, or none for the user's
-    /// copy of the sample templates.
+    /// One, or none for the user's copy of the sample project; several for `render`. For `catalogue` the list of
+    /// templates, that of categories, and the folder; for `find` the pattern; for `options` the folder, or none for the
+    /// user's copy of the sample templates. For a command on a project its address, and then what the command takes:
+    /// files to import, or tag, item and value.
     QStringList files;
 
     ViewOptions view;
@@ -133,6 +153,8 @@ struct CommandLine
     QString messages; ///< the file that every message is appended to; empty for none
     RenderOptions render;
     EditorOptions editor;
+    ProjectOptions project;
+    bool languageChosen = false; ///< else a project has its own
     QString language = QStringLiteral("en");
     Palette palette = Palette::Desktop;
 

@@ -60,6 +60,37 @@ void CheckFolder(const QStringList& arguments)
         throw HostError(QStringLiteral("the folder's name is empty"));
 }
 
+struct ArgumentCount
+{
+    qsizetype least;
+    qsizetype most;
+    const char* what;
+};
+
+/// What each command on a project takes.
+ArgumentCount CountOf(Form form)
+{
+    constexpr qsizetype kAny = 1'000'000;
+    switch (form) {
+    case Form::Import:
+        return {2, kAny, "import takes a project and the tables to import"};
+    case Form::Get:
+        return {2, 3, "get takes a project, a tag and, for one value, a data item"};
+    case Form::Set:
+        return {4, 4, "set takes a project, a tag, a data item and a value"};
+    default:
+        return {1, 1, "this command takes one project"};
+    }
+}
+
+void CheckProject(const QStringList& arguments, Form form)
+{
+    const ArgumentCount count = CountOf(form);
+    if (arguments.size() < count.least || arguments.size() > count.most)
+        throw HostError(QString::fromLatin1(count.what));
+    RequireNames(arguments.first(1));
+}
+
 /// An output has either a name of its own or one that is made from folder and input.
 void CheckNaming(const QCommandLineParser& parser, const QStringList& files)
 {
@@ -131,6 +162,13 @@ void CheckArguments(const QStringList& arguments, Form form)
         return CheckPattern(arguments);
     case Form::Options:
         return CheckFolder(arguments);
+    case Form::New:
+    case Form::Import:
+    case Form::List:
+    case Form::Schedule:
+    case Form::Get:
+    case Form::Set:
+        return CheckProject(arguments, form);
     default:
         return CheckFiles(arguments, form);
     }
@@ -155,6 +193,22 @@ void CheckEditor(const CommandLine& commandLine)
     if (!editor.item.isEmpty() && editor.group.isEmpty())
         throw HostError(QStringLiteral("--item needs --group NAME"));
     RequireDifferent({commandLine.messages, editor.picture});
+}
+
+void CheckNew(const CommandLine& commandLine)
+{
+    if (commandLine.project.empty && commandLine.project.sample)
+        throw HostError(QStringLiteral("--empty and --sample exclude each other"));
+}
+
+void CheckSchedule(const QCommandLineParser& parser, const CommandLine& commandLine)
+{
+    if (commandLine.project.category.isEmpty())
+        throw HostError(QStringLiteral("schedule needs --category NAME"));
+    if (commandLine.render.outputs.isEmpty())
+        throw HostError(QStringLiteral("schedule needs an output, such as --pdf FILE"));
+    CheckFormats(parser, commandLine.render.outputs);
+    CheckNames(commandLine);
 }
 
 } // namespace schedules::host

@@ -20,4 +20,10 @@ void CheckRendering(const QCommandLineParser& parser, const CommandLine& command
 /// What `options` is to open.
 void CheckEditor(const CommandLine& commandLine);
 
+/// What a new project is to have.
+void CheckNew(const CommandLine& commandLine);
+
+/// What `schedule` is to write.
+void CheckSchedule(const QCommandLineParser& parser, const CommandLine& commandLine);
+
 } // namespace schedules::host

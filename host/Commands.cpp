@@ -7,22 +7,44 @@
 #include "host/OwnSample.h"
 #include "host/Palettes.h"
 #include "host/XmlFile.h"
+#include "host/project/Project.h"
+#include "host/window/ProjectWindow.h"
 
 #include <QApplication>
 
 namespace schedules::host {
 
+namespace {
+
+int ShowTable(Session& session, const CommandLine& commandLine, const QString& file)
+{
+    ReadXmlFile(file); // what cannot be read is told before there is a window
+    MainWindow window(session.Router(), commandLine.view);
+    window.show();
+    window.Open(file);
+    return QApplication::exec();
+}
+
+int ShowProject(Session& session, const CommandLine& commandLine, const QString& address)
+{
+    auto project = Project::Open(address); // likewise
+    ProjectWindow window(session);
+    window.UseColours(commandLine.palette);
+    window.show();
+    window.Show(std::move(project), commandLine.languageChosen ? commandLine.language : QString());
+    return QApplication::exec();
+}
+
+} // namespace
+
 int RunWindow(const CommandLine& commandLine)
 {
     KeepInputs(commandLine.files, {commandLine.messages});
     Session session(commandLine);
-    const QString file = commandLine.files.isEmpty() ? OwnSample() : commandLine.files.first();
-    ReadXmlFile(file); // what cannot be read is told before there is a window
+    const QString address = commandLine.files.isEmpty() ? OwnProject() : commandLine.files.first();
     UsePalette(commandLine.palette);
-    MainWindow window(session.Router(), commandLine.view);
-    window.show();
-    window.Open(file);
-    const int result = QApplication::exec();
+    const int result =
+        NamesProject(address) ? ShowProject(session, commandLine, address) : ShowTable(session, commandLine, address);
     session.RequireCompleteMessages();
     return result;
 }
@@ -30,7 +52,7 @@ int RunWindow(const CommandLine& commandLine)
 int RunDump(const CommandLine& commandLine)
 {
     KeepInputs(commandLine.files, {commandLine.messages, commandLine.actions.save});
-    LoadedTool loaded(commandLine, commandLine.files.first());
+    LoadedTool loaded(commandLine, ReadXmlFile(commandLine.files.first()));
     const ScheduleTool& tool = loaded.Tool();
     PrintOut(GridJson(tool.Grid(), tool.Orientation(), tool.Transposed()));
     return kDone;

@@ -28,6 +28,8 @@ public:
     /// Messages of that name are no longer answered.
     void NoLongerAnswers(const QString& name);
 
+    bool IsAnswered(const QString& name) const { return m_answers.contains(name); }
+
     QString Send(const Envelope& envelope) override;
 
 Q_SIGNALS:

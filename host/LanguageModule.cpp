@@ -1,7 +1,7 @@
 #include "host/LanguageModule.h"
 
 #include "framework/IComponentFactory.h"
-#include "host/DataFolder.h"
+#include "host/project/DataFolder.h"
 
 #include <QDir>
 

@@ -19,14 +19,14 @@ void KeepInputs(const QStringList& inputs, const QStringList& outputs)
     }
 }
 
-LoadedTool::LoadedTool(const CommandLine& commandLine, const QString& file)
+LoadedTool::LoadedTool(const CommandLine& commandLine, const QString& xml)
     : m_session(commandLine), m_tool(m_session.Router(), &m_user, commandLine.view)
 {
     m_session.Router().Answers(QStringLiteral("UpdateTagScheduleData"), [this](const Message& message) {
         m_handedOver = ParameterText(message, QStringLiteral("ScheduleXml"));
         return QString();
     });
-    m_tool.Load(ReadXmlFile(file));
+    m_tool.Load(xml);
     ThrowFailure();
     if (commandLine.view.transpose)
         m_tool.Transpose();

@@ -12,12 +12,12 @@ namespace schedules::host {
 /// Throws `HostError` when a file that is to be written is one of those that are read.
 void KeepInputs(const QStringList& inputs, const QStringList& outputs);
 
-/// A schedule view that has loaded a file, with the command line's actions done, and has nobody to talk to.
+/// A schedule view that has loaded a table, with the command line's actions done, and has nobody to talk to.
 class LoadedTool
 {
 public:
     /// Throws `HostError`, also for what an action writes and cannot.
-    LoadedTool(const CommandLine& commandLine, const QString& file);
+    LoadedTool(const CommandLine& commandLine, const QString& xml);
 
     ScheduleTool& Tool() { return m_tool; }
 

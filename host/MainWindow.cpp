@@ -1,7 +1,7 @@
 #include "host/MainWindow.h"
 
 #include "framework/IComponentFactory.h"
-#include "host/DataFolder.h"
+#include "host/project/DataFolder.h"
 #include "host/HostError.h"
 #include "host/HostRouter.h"
 #include "host/MessageDock.h"
@@ -125,20 +125,7 @@ void MainWindow::Open(const QString& fileName)
 
 bool MainWindow::MayReplace()
 {
-    if (!m_tool)
-        return true;
-    m_tool->CommitEdit();
-    if (!m_tool->Dirty())
-        return true;
-    switch (m_answering.unsaved(*this, m_file->ShortName())) {
-    case UnsavedValues::Save:
-        m_tool->Save();
-        return !m_tool->Dirty();
-    case UnsavedValues::Discard:
-        return true;
-    default:
-        return false;
-    }
+    return !m_tool || host::MayReplace(*m_tool, *this, m_file->ShortName(), m_answering.unsaved);
 }
 
 bool MainWindow::Show(const QString& fileName, const ViewOptions& options)

@@ -1,23 +1,52 @@
 #include "host/MessageDock.h"
 
+#include "host/MessageFilter.h"
 #include "host/MessageModel.h"
 
+#include <QComboBox>
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QTreeView>
+#include <QVBoxLayout>
 
 namespace schedules::host {
 
 MessageDock::MessageDock(QWidget* parent)
-    : QDockWidget(tr("Messages"), parent), m_model(new MessageModel(this)), m_list(new QTreeView(this))
+    : QDockWidget(tr("Messages"), parent),
+      m_model(new MessageModel(this)),
+      m_filter(new MessageFilter(this)),
+      m_list(new QTreeView(this))
 {
     setObjectName(QStringLiteral("dockMessages"));
     BuildList();
-    setWidget(m_list);
+    auto* content = new QWidget(this);
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins({});
+    column->setSpacing(0);
+    column->addWidget(FilterRow());
+    column->addWidget(m_list);
+    setWidget(content);
+}
+
+QWidget* MessageDock::FilterRow()
+{
+    auto* row = new QWidget(this);
+    auto* kinds = new QComboBox(row);
+    kinds->setObjectName(QStringLiteral("cboMessageKinds"));
+    kinds->addItems({tr("All messages"), tr("Requests"), tr("Events"), tr("Errors")}); // in the order of the kinds
+    connect(kinds, &QComboBox::currentIndexChanged, m_filter,
+            [this](int index) { m_filter->ShowKind(MessageFilter::Kind(index)); });
+    auto* line = new QHBoxLayout(row);
+    line->setContentsMargins(4, 2, 4, 2);
+    line->addWidget(kinds);
+    line->addStretch();
+    return row;
 }
 
 void MessageDock::BuildList()
 {
-    m_list->setModel(m_model);
+    m_filter->setSourceModel(m_model);
+    m_list->setModel(m_filter);
     m_list->setObjectName(QStringLiteral("lstMessages"));
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);

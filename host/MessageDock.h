@@ -8,9 +8,10 @@ class QTreeView;
 
 namespace schedules::host {
 
+class MessageFilter;
 class MessageModel;
 
-/// Lists the messages between tools and host as they cross.
+/// Lists the messages between tools and host as they cross; of one kind alone when the user chooses so.
 class MessageDock : public QDockWidget
 {
     Q_OBJECT
@@ -22,8 +23,10 @@ public:
 
 private:
     void BuildList();
+    QWidget* FilterRow();
 
     MessageModel* m_model;
+    MessageFilter* m_filter;
     QTreeView* m_list;
 };
 

@@ -28,6 +28,8 @@ public:
 
     void Append(const Crossing& crossing);
 
+    const Crossing& At(int row) const { return m_crossings[row]; }
+
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
 

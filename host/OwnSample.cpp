@@ -1,8 +1,10 @@
 #include "host/OwnSample.h"
 
-#include "host/DataFolder.h"
+#include "host/project/DataFolder.h"
 #include "host/HostError.h"
 #include "host/XmlFile.h"
+#include "host/import/SampleProject.h"
+#include "host/project/Project.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -28,15 +30,19 @@ QString OwnPath(const QString& sample)
     return QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)).filePath(sample);
 }
 
+void MakeFolder(const QString& folder)
+{
+    if (!QDir().mkpath(folder))
+        throw HostError(QStringLiteral("cannot make the folder %1").arg(folder));
+}
+
 /// The user's copy of a sample, which is named from the folder of samples on.
 QString OwnCopy(const QString& sample)
 {
     const QString own = OwnPath(sample);
     if (QFileInfo::exists(own))
         return own;
-    const QString folder = QFileInfo(own).path();
-    if (!QDir().mkpath(folder))
-        throw HostError(QStringLiteral("cannot make the folder %1").arg(folder));
+    MakeFolder(QFileInfo(own).path());
     WriteXmlFile(own, ReadXmlFile(Samples().filePath(sample)));
     return own;
 }
@@ -49,9 +55,19 @@ public:
 
 } // namespace
 
-QString OwnSample()
+QString OwnProject()
 {
-    return OwnCopy(QStringLiteral("pumps.xml"));
+    const QString own = OwnPath(QStringLiteral("sample.schedules"));
+    if (QFileInfo::exists(own))
+        return own;
+    MakeFolder(QFileInfo(own).path());
+    // It gets its name when it is complete, so that a start that was cut short leaves none.
+    const QString unfinished = OwnPath(QStringLiteral("unfinished.schedules"));
+    QFile::remove(unfinished);
+    FillWithSample(*Project::Create(unfinished));
+    if (!QFile::rename(unfinished, own))
+        throw HostError(QStringLiteral("cannot make %1").arg(own));
+    return own;
 }
 
 TemplatePlaces OwnTemplates()

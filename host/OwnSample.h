@@ -9,8 +9,8 @@ namespace schedules::host {
 // The user's own copies of the samples, which he may change: made in his data folder when they are not there yet, and
 // left as they are later. `HostError` is thrown when one cannot be made.
 
-/// The sample schedule.
-QString OwnSample();
+/// The address of the sample project.
+QString OwnProject();
 
 /// The sample templates with their two lists, made together once: a template that the user has deleted stays deleted.
 /// The schedule's template is the one that was kept last.

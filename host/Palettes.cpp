@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QStyle>
 #include <QStyleFactory>
 
 namespace schedules::host {
@@ -45,8 +46,13 @@ QPalette Dark()
 
 void UsePalette(Palette palette)
 {
-    if (palette == Palette::Desktop)
+    static const QString desktopStyle = QApplication::style()->name();
+    if (palette == Palette::Desktop) {
+        if (QApplication::style()->name() != desktopStyle)
+            QApplication::setStyle(desktopStyle);
+        QApplication::setPalette(QPalette());
         return;
+    }
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(palette == Palette::Dark ? Dark() : Light());
 }

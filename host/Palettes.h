@@ -4,8 +4,7 @@
 
 namespace schedules::host {
 
-/// Gives the application light or dark colours of its own, and a style that shows them; leaves the desktop's as they
-/// are when these are asked for. Before there are widgets.
+/// Gives the application light or dark colours of its own, and a style that shows them, or those of the desktop.
 void UsePalette(Palette palette);
 
 } // namespace schedules::host

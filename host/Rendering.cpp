@@ -2,8 +2,9 @@
 #include "host/Console.h"
 #include "host/HostError.h"
 #include "host/LoadedTool.h"
+#include "host/Outputs.h"
 #include "host/Palettes.h"
-#include "host/Picture.h"
+#include "host/XmlFile.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -18,14 +19,6 @@ void MakeFolder(const QString& folder)
 {
     if (!folder.isEmpty() && !QDir().mkpath(folder))
         throw HostError(QStringLiteral("cannot make the folder %1").arg(folder));
-}
-
-/// A failure to write a file, told with the file's name once.
-HostError NotWritten(const QString& fileName, const QString& failure)
-{
-    const QString named = fileName + QStringLiteral(": ");
-    const QString reason = failure.startsWith(named) ? failure.sliced(named.size()) : failure;
-    return HostError(QStringLiteral("cannot write %1%2").arg(named, reason.simplified()));
 }
 
 /// Writes all outputs of all files. What fails is told in a line, and the rest done.
@@ -46,7 +39,7 @@ private:
     {
         Show(file, QStringLiteral("reading"));
         KeepInputs(m_commandLine.files, {m_commandLine.messages, m_commandLine.actions.save});
-        LoadedTool loaded(m_commandLine, file);
+        LoadedTool loaded(m_commandLine, ReadXmlFile(file));
         for (const Output& output : m_options.OutputsOf(file)) {
             Show(file, output.format);
             Guarded(file, [&] { Write(loaded, output); });
@@ -56,23 +49,7 @@ private:
     void Write(LoadedTool& loaded, const Output& output)
     {
         KeepInputs(m_commandLine.files, {output.fileName});
-        const QString failure = Written(loaded.Tool(), output);
-        const auto told = loaded.TakeFailure();
-        if (!failure.isEmpty() || told)
-            throw NotWritten(output.fileName, told.value_or(failure));
-        m_progress.Clear();
-        PrintOut(output.fileName.toLocal8Bit() + '\n');
-    }
-
-    /// What went wrong.
-    QString Written(ScheduleTool& tool, const Output& output) const
-    {
-        if (output.format == QLatin1String("pdf"))
-            return tool.WritePdf(output.fileName, m_options.smartPrint, m_options.paper);
-        if (output.format != QLatin1String("png"))
-            return tool.WriteFile(output.format, output.fileName);
-        WritePng(PictureOf(tool.Widget(), m_options.title), output.fileName);
-        return {};
+        WriteOutput(loaded, output, m_options, m_progress);
     }
 
     template <std::invocable Step>

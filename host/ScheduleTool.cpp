@@ -46,6 +46,16 @@ void ScheduleTool::Load(const QString& xml)
     m_tool->IToolUI_Activate();
 }
 
+void ScheduleTool::GiveText(const QString& xml)
+{
+    m_tool->IToolUI_XML(xml);
+}
+
+void ScheduleTool::SetPdsg(const QString& pdsg)
+{
+    m_widget->setProperty("BuilderPdsg", pdsg);
+}
+
 void ScheduleTool::Trigger(const char* button)
 {
     auto* action = m_widget->findChild<QAction*>(QLatin1String(button));
@@ -62,6 +72,11 @@ void ScheduleTool::Transpose()
 void ScheduleTool::Save()
 {
     Trigger("btnSaveTag");
+}
+
+void ScheduleTool::Print()
+{
+    Trigger("btnPrint");
 }
 
 QString ScheduleTool::WriteFile(const QString& format, const QString& fileName)

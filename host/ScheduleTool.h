@@ -27,11 +27,21 @@ public:
     /// Loads a table and shows it. How a failed load is told is the tool's business.
     void Load(const QString& xml);
 
+    /// Hands over a text without showing it: the view goes on showing what it shows, and its next edits go into this
+    /// text, which therefore has the same rows and columns.
+    void GiveText(const QString& xml);
+
+    /// A text of the host's own, which comes back with what the view sends.
+    void SetPdsg(const QString& pdsg);
+
     /// Does what the button Transpose does. Throws `HostError` while there is no such button.
     void Transpose();
 
     /// Does what the button Save does; nothing while it is not enabled. Throws `HostError` as well.
     void Save();
+
+    /// Does what the button Print does. Throws `HostError` likewise.
+    void Print();
 
     /// Writes what the grid shows in a format of `Output` that is neither a picture nor a PDF. Gives what went wrong.
     QString WriteFile(const QString& format, const QString& fileName);

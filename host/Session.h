@@ -5,6 +5,7 @@
 #include "host/LanguageModule.h"
 #include "host/MessageFile.h"
 
+#include <memory>
 #include <optional>
 
 namespace schedules::host {
@@ -17,13 +18,16 @@ public:
     /// Throws `HostError` when the message file cannot be written.
     explicit Session(const CommandLine& commandLine);
 
+    /// The language of all tools created from now on. Before that those that there are must be gone.
+    void UseLanguage(const QString& language);
+
     HostRouter& Router() { return m_router; }
 
     /// Throws `HostError` when a message is missing in the message file.
     void RequireCompleteMessages() const;
 
 private:
-    LanguageModule m_language;
+    std::unique_ptr<LanguageModule> m_language;
     std::optional<MessageFile> m_messageFile;
     HostRouter m_router;
 };

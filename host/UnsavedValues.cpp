@@ -1,5 +1,7 @@
 #include "host/UnsavedValues.h"
 
+#include "host/ScheduleTool.h"
+
 #include <QCoreApplication>
 #include <QMessageBox>
 
@@ -19,6 +21,22 @@ UnsavedValues AskAboutUnsaved(QWidget& window, const QString& file)
         return UnsavedValues::Discard;
     default:
         return UnsavedValues::Keep;
+    }
+}
+
+bool MayReplace(ScheduleTool& tool, QWidget& window, const QString& name, const UnsavedQuestion& question)
+{
+    tool.CommitEdit();
+    if (!tool.Dirty())
+        return true;
+    switch (question(window, name)) {
+    case UnsavedValues::Save:
+        tool.Save();
+        return !tool.Dirty();
+    case UnsavedValues::Discard:
+        return true;
+    default:
+        return false;
     }
 }
 

@@ -8,6 +8,8 @@ class QWidget;
 
 namespace schedules::host {
 
+class ScheduleTool;
+
 /// What becomes of edited values when something else is about to be shown.
 enum class UnsavedValues
 {
@@ -21,5 +23,9 @@ using UnsavedQuestion = std::function<UnsavedValues(QWidget& window, const QStri
 
 /// Asks in a message box over the window.
 UnsavedValues AskAboutUnsaved(QWidget& window, const QString& file);
+
+/// Whether something else may be shown in place of what a view shows: nothing is unsaved, or the user had it saved, or
+/// does not want it.
+bool MayReplace(ScheduleTool& tool, QWidget& window, const QString& name, const UnsavedQuestion& question);
 
 } // namespace schedules::host

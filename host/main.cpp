@@ -7,6 +7,8 @@
 
 #include <QApplication>
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
 #include <memory>
 
@@ -37,6 +39,18 @@ int Run(const CommandLine& commandLine)
         return RunFind(commandLine);
     case Form::Options:
         return RunOptions(commandLine);
+    case Form::New:
+        return RunNew(commandLine);
+    case Form::Import:
+        return RunImport(commandLine);
+    case Form::List:
+        return RunList(commandLine);
+    case Form::Schedule:
+        return RunSchedule(commandLine);
+    case Form::Get:
+        return RunGet(commandLine);
+    case Form::Set:
+        return RunSet(commandLine);
     default:
         return RunWindow(commandLine);
     }
@@ -45,7 +59,8 @@ int Run(const CommandLine& commandLine)
 /// What shows and draws nothing works on any platform, and starts sooner without one.
 std::unique_ptr<QCoreApplication> Application(Form form, int& argc, char** argv)
 {
-    if (form == Form::Template || form == Form::Catalogue || form == Form::Find)
+    constexpr std::array kDrawing{Form::Window, Form::Dump, Form::Render, Form::Options, Form::Schedule};
+    if (std::ranges::find(kDrawing, form) == kDrawing.end())
         return std::make_unique<QCoreApplication>(argc, argv);
     return std::make_unique<QApplication>(argc, argv);
 }

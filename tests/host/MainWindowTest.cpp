@@ -1,7 +1,7 @@
 #include "host/MainWindow.h"
 
 #include "framework/MessageTable.h"
-#include "host/DataFolder.h"
+#include "host/project/DataFolder.h"
 #include "host/HostRouter.h"
 #include "host/LanguageModule.h"
 #include "host/MessageDock.h"

@@ -38,8 +38,9 @@ const QHash<QString, QStringList> kMayInclude{
     {"host", {"framework", "model", "fileutil"}},
 };
 
-/// Headers outside of its layers that the host may include: the sheet, and what the public headers are made of.
-const QStringList kPublicHeaders{"spread/Sheet.h", "common/UserInterface.h"};
+/// Headers outside of its layers that the host may include: the sheet, the grid engine, and what the public headers are
+/// made of.
+const QStringList kPublicHeaders{"spread/Sheet.h", "grid/CSchedule.h", "common/UserInterface.h"};
 
 QString LayerOf(const QString& path)
 {

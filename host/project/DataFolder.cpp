@@ -1,4 +1,4 @@
-#include "host/DataFolder.h"
+#include "host/project/DataFolder.h"
 
 #include <QCoreApplication>
 #include <QDir>

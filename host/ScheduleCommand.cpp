@@ -1,0 +1,62 @@
+#include "host/Commands.h"
+#include "host/Console.h"
+#include "host/HostError.h"
+#include "host/LoadedTool.h"
+#include "host/Outputs.h"
+#include "host/Palettes.h"
+#include "host/answers/ProjectSchedule.h"
+#include "host/project/Project.h"
+
+namespace schedules::host {
+
+namespace {
+
+/// By its file or its name, whatever category the list has it in.
+TemplateLayout NamedLayout(const Project& project, const QString& name)
+{
+    for (const TemplateEntry& entry : project.Templates()) {
+        if (entry.fileName.compare(name, Qt::CaseInsensitive) == 0 ||
+            entry.name.compare(name, Qt::CaseInsensitive) == 0)
+            return ReadTemplateLayout(project.TemplateText(entry.fileName));
+    }
+    throw HostError(QStringLiteral("there is no template %1").arg(name));
+}
+
+QString TextOf(const Project& project, const ProjectOptions& options)
+{
+    const QStringList tags = options.tags.isEmpty() ? TagNames(project, options.category) : options.tags;
+    const TemplateLayout layout = options.templateFile.isEmpty() ? CurrentLayout(project, options.category)
+                                                                 : NamedLayout(project, options.templateFile);
+    return ScheduleOf(project, options.category, tags, layout);
+}
+
+QStringList OutputNames(const RenderOptions& options)
+{
+    QStringList names;
+    for (const Output& output : options.outputs)
+        names << output.fileName;
+    return names;
+}
+
+} // namespace
+
+int RunSchedule(const CommandLine& commandLine)
+{
+    const QString& address = commandLine.files.first();
+    KeepInputs({address}, OutputNames(commandLine.render) + QStringList{commandLine.messages});
+    UsePalette(commandLine.palette);
+    const auto project = Project::Open(address);
+    CommandLine viewed = commandLine;
+    if (!commandLine.languageChosen)
+        viewed.language = project->Language();
+    ProgressLine progress;
+    progress.Show(QStringLiteral("building the schedule of %1").arg(commandLine.project.category));
+    LoadedTool loaded(viewed, TextOf(*project, commandLine.project));
+    for (const Output& output : commandLine.render.outputs) {
+        progress.Show(QStringLiteral("writing %1").arg(output.fileName));
+        WriteOutput(loaded, output, commandLine.render, progress);
+    }
+    return kDone;
+}
+
+} // namespace schedules::host

@@ -1,0 +1,236 @@
+#include "host/answers/ProjectAnswers.h"
+
+#include "host/HostError.h"
+#include "host/HostRouter.h"
+#include "host/project/Project.h"
+#include "host/project/TemplateListXml.h"
+#include "host/schedule/EditedCells.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <span>
+
+namespace schedules::host {
+
+namespace {
+
+const TemplateEntry* EntryWithFile(const QList<TemplateEntry>& entries, const QString& fileName)
+{
+    const auto found = std::ranges::find_if(entries, [&](const TemplateEntry& entry) {
+        return entry.fileName.compare(fileName, Qt::CaseInsensitive) == 0;
+    });
+    return found == entries.end() ? nullptr : &*found;
+}
+
+bool IsTaken(const QList<TemplateEntry>& entries, const QString& name)
+{
+    return std::ranges::any_of(entries, [&](const TemplateEntry& entry) {
+        return entry.name.compare(name, Qt::CaseInsensitive) == 0 ||
+               entry.fileName.compare(name + QStringLiteral(".xml"), Qt::CaseInsensitive) == 0;
+    });
+}
+
+/// A name for another client's template of the same name.
+QString FreeName(const QList<TemplateEntry>& entries, const QString& name)
+{
+    for (int number = 2;; ++number) {
+        const QString free = QStringLiteral("%1 (%2)").arg(name).arg(number);
+        if (!IsTaken(entries, free))
+            return free;
+    }
+}
+
+QStringList FileNames(const QList<TemplateEntry>& entries)
+{
+    QStringList names;
+    for (const TemplateEntry& entry : entries)
+        names << entry.fileName;
+    return names;
+}
+
+} // namespace
+
+struct ProjectAnswers::Binding
+{
+    const char* message;
+    Handler handler;
+};
+
+std::span<const ProjectAnswers::Binding> ProjectAnswers::Bindings()
+{
+    static constexpr Binding kBindings[]{
+        {"InitializeSchedule", &ProjectAnswers::Nothing},
+        {"INITIALIZESCHEDOPTIONS", &ProjectAnswers::Nothing},
+        {"ProcessSubscriberEvent", &ProjectAnswers::ShowHelp},
+        {"GETTEMPLATELIST", &ProjectAnswers::TemplateList},
+        {"GETBUILDERPATH", &ProjectAnswers::Folder},
+        {"GETTEMPLATECATEGORIES", &ProjectAnswers::CategoryList},
+        {"GETCURRENTSCHEDTEMPLATE", &ProjectAnswers::CurrentTemplate},
+        {"SETCURRENTSCHEDTEMPLATE", &ProjectAnswers::UseTemplate},
+        {"UPDATESCHEDCONFIG", &ProjectAnswers::ReplaceList},
+        {"REMOVECONFIGENTRY", &ProjectAnswers::RemoveFromList},
+        {"ShowOptions", &ProjectAnswers::ShowOptions},
+        {"UnloadScheduleOptions", &ProjectAnswers::EndOptions},
+        {"UnloadSchedule", &ProjectAnswers::EndSchedule},
+        {"ContinueButton", &ProjectAnswers::PickTags},
+        {"PrintSelections", &ProjectAnswers::PrintTags},
+        {"UpdateTagScheduleData", &ProjectAnswers::SaveValues},
+        {"ErrorMessage", &ProjectAnswers::TellError},
+    };
+    return kBindings;
+}
+
+ProjectAnswers::ProjectAnswers(HostRouter& router, Project& project, TemplateFolder& folder, ConflictQuestion conflicts)
+    : m_router(router), m_project(project), m_folder(folder), m_conflicts(std::move(conflicts))
+{
+    for (const Binding& binding : Bindings())
+        router.Answers(QString::fromLatin1(binding.message),
+                       [this, &binding](const Message& message) { return (this->*binding.handler)(message); });
+}
+
+ProjectAnswers::~ProjectAnswers()
+{
+    for (const Binding& binding : Bindings())
+        m_router.NoLongerAnswers(QString::fromLatin1(binding.message));
+}
+
+QString ProjectAnswers::TemplateList(const Message&)
+{
+    m_shown = m_project.Templates();
+    return TemplateListXml(m_shown);
+}
+
+QString ProjectAnswers::Folder(const Message&)
+{
+    m_folder.LayOut();
+    return m_folder.Path();
+}
+
+QString ProjectAnswers::CategoryList(const Message&)
+{
+    return CategoryListXml(m_project.Categories());
+}
+
+QString ProjectAnswers::CurrentTemplate(const Message&)
+{
+    return m_project.CurrentTemplate(m_category);
+}
+
+QString ProjectAnswers::UseTemplate(const Message& message)
+{
+    const QString fileName = ParameterText(message, QStringLiteral("TemplateFile"));
+    m_project.SetCurrentTemplate(m_category, fileName);
+    Q_EMIT TemplateChosen(ParameterText(message, QStringLiteral("TemplateXML")), fileName);
+    return {};
+}
+
+QString ProjectAnswers::ReplaceList(const Message& message)
+{
+    QList<TemplateEntry> wanted = Completed(ReadTemplateList(ParameterText(message, QStringLiteral("ConfigXML"))));
+    const FileTexts changed = m_folder.Changed(FileNames(wanted));
+    FileTexts texts = changed;
+    KeepOthers(changed, wanted, texts);
+    m_project.MergeTemplates(m_shown, wanted, texts);
+    m_folder.Remember(changed);
+    m_shown = m_project.Templates();
+    Q_EMIT TemplatesChanged();
+    return {};
+}
+
+/// The editor names a new template without its category; its file says which it is.
+QList<TemplateEntry> ProjectAnswers::Completed(QList<TemplateEntry> entries) const
+{
+    const FileTexts files = m_folder.Changed(FileNames(entries));
+    for (TemplateEntry& entry : entries) {
+        const auto file = std::ranges::find_if(files, [&](const auto& text) { return text.first == entry.fileName; });
+        if (entry.category.isEmpty() && file != files.end())
+            entry.category = EntryOfFile(file->first, file->second).category;
+    }
+    return entries;
+}
+
+/// Where another client has stored a text of the same file since, his becomes a template of its own.
+void ProjectAnswers::KeepOthers(const FileTexts& changed, QList<TemplateEntry>& wanted, FileTexts& texts)
+{
+    for (const auto& [fileName, text] : m_folder.ChangedElsewhere(changed)) {
+        const TemplateEntry* entry = EntryWithFile(wanted, fileName);
+        if (!entry)
+            continue;
+        TemplateEntry kept = *entry;
+        kept.name = FreeName(wanted + m_project.Templates(), entry->name);
+        kept.fileName = kept.name + QStringLiteral(".xml");
+        kept.defaultForCategory = false;
+        Q_EMIT TemplateKept(entry->name, kept.name);
+        texts.append({kept.fileName, text});
+        wanted.append(kept);
+    }
+}
+
+QString ProjectAnswers::RemoveFromList(const Message& message)
+{
+    m_project.RemoveTemplate(ParameterText(message, QStringLiteral("TemplateFile")));
+    m_shown = m_project.Templates();
+    Q_EMIT TemplatesChanged();
+    return {};
+}
+
+QString ProjectAnswers::ShowOptions(const Message&)
+{
+    Q_EMIT OptionsWanted();
+    return {};
+}
+
+QString ProjectAnswers::EndOptions(const Message&)
+{
+    Q_EMIT OptionsDone();
+    return {};
+}
+
+QString ProjectAnswers::EndSchedule(const Message&)
+{
+    Q_EMIT ScheduleDone();
+    return {};
+}
+
+QString ProjectAnswers::PickTags(const Message& message)
+{
+    Q_EMIT TagsPicked(SelectedTags(ParameterText(message, QStringLiteral("SelectedTags"))));
+    return {};
+}
+
+QString ProjectAnswers::PrintTags(const Message& message)
+{
+    Q_EMIT TagsToPrint(SelectedTags(ParameterText(message, QStringLiteral("SelectedTags"))));
+    return {};
+}
+
+QString ProjectAnswers::SaveValues(const Message& message)
+{
+    const QString xml = ParameterText(message, QStringLiteral("ScheduleXml"));
+    SaveResult result = m_project.Save(EditedCells(xml, m_project.Items()));
+    int stored = result.stored;
+    bool differs = false;
+    while (!result.conflicts.isEmpty()) {
+        const QList<ValueEdit> insisted = m_conflicts(result.conflicts);
+        differs = differs || insisted.size() < result.conflicts.size();
+        result = m_project.Save(insisted);
+        stored += result.stored;
+    }
+    Q_EMIT Saved(stored, differs);
+    return {};
+}
+
+QString ProjectAnswers::ShowHelp(const Message& message)
+{
+    Q_EMIT HelpWanted(ParameterText(message, QStringLiteral("ContextID")));
+    return {};
+}
+
+QString ProjectAnswers::TellError(const Message& message)
+{
+    Q_EMIT ErrorTold(ParameterText(message, QStringLiteral("ErrorDescription")));
+    return {};
+}
+
+} // namespace schedules::host

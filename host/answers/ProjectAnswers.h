@@ -1,0 +1,97 @@
+#pragma once
+
+#include "host/answers/TemplateFolder.h"
+#include "host/project/ProjectTypes.h"
+
+#include <QObject>
+#include <QStringList>
+
+#include <functional>
+#include <span>
+
+namespace schedules {
+struct Message;
+} // namespace schedules
+
+namespace schedules::host {
+
+class HostRouter;
+class Project;
+
+/// What the user wants where somebody else has stored another value since: the edits that are to be stored all the
+/// same.
+using ConflictQuestion = std::function<QList<ValueEdit>(const QList<Conflict>& conflicts)>;
+
+/// Answers the tools out of a project, and does in it what they tell: docs/host-protocol.md lists it message by
+/// message. What is to be seen of it on screen is told by signals, which come while the tool still waits for its reply.
+///
+/// A message that cannot be done fails: the tool tells its user why.
+class ProjectAnswers : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// All of them must outlive this object.
+    ProjectAnswers(HostRouter& router, Project& project, TemplateFolder& folder, ConflictQuestion conflicts);
+    ~ProjectAnswers() override;
+
+    /// The category that is being worked on.
+    const QString& Category() const { return m_category; }
+    void WorkOn(const QString& category) { m_category = category; }
+
+Q_SIGNALS:
+    /// The schedule is to be built from this template.
+    void TemplateChosen(const QString& xml, const QString& fileName);
+
+    /// The list of templates is another one.
+    void TemplatesChanged();
+
+    /// Another client has changed this template as well; his is in the list now under the second name.
+    void TemplateKept(const QString& name, const QString& keptAs);
+
+    void OptionsWanted();
+    void OptionsDone();
+    void ScheduleDone();
+    void TagsPicked(const QStringList& tags);
+    void TagsToPrint(const QStringList& tags);
+
+    /// Values were stored; the view needs fresh text. With `differs` it shows values that are not those stored.
+    void Saved(int stored, bool differs);
+
+    void HelpWanted(const QString& context);
+    void ErrorTold(const QString& description);
+
+private:
+    using Handler = QString (ProjectAnswers::*)(const Message&);
+    struct Binding;
+    static std::span<const Binding> Bindings();
+
+    QString TemplateList(const Message&);
+    QString Folder(const Message&);
+    QString CategoryList(const Message&);
+    QString CurrentTemplate(const Message&);
+    QString UseTemplate(const Message& message);
+    QString ReplaceList(const Message& message);
+    QString RemoveFromList(const Message& message);
+    QString ShowOptions(const Message&);
+    QString EndOptions(const Message&);
+    QString EndSchedule(const Message&);
+    QString PickTags(const Message& message);
+    QString PrintTags(const Message& message);
+    QString SaveValues(const Message& message);
+    QString ShowHelp(const Message& message);
+    QString TellError(const Message& message);
+    QString Nothing(const Message&) { return {}; }
+
+    QList<TemplateEntry> Completed(QList<TemplateEntry> entries) const;
+    void KeepOthers(const FileTexts& changed, QList<TemplateEntry>& wanted, FileTexts& texts);
+
+    HostRouter& m_router;
+    Project& m_project;
+    TemplateFolder& m_folder;
+    ConflictQuestion m_conflicts;
+    QString m_category;
+    QList<TemplateEntry> m_shown; ///< the list as it was last sent
+};
+
+} // namespace schedules::host

@@ -1,0 +1,223 @@
+#include "host/answers/TemplateFolder.h"
+
+#include "host/FileReplacement.h"
+#include "host/HostError.h"
+#include "host/XmlFile.h"
+#include "host/project/Project.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QStandardPaths>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+
+namespace schedules::host {
+
+namespace {
+
+const QString kMemory = QStringLiteral(".laid-out.json");
+const QStringList kTemplateFiles{QStringLiteral("*.xml")};
+
+QString Folded(const QString& fileName)
+{
+    return fileName.toCaseFolded();
+}
+
+QString Checksum(const QString& text)
+{
+    return QString::fromLatin1(QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha256).toHex());
+}
+
+bool Holds(const QStringList& names, const QString& name)
+{
+    return names.contains(name, Qt::CaseInsensitive);
+}
+
+QStringList FileNames(const QList<TemplateEntry>& entries)
+{
+    QStringList names;
+    for (const TemplateEntry& entry : entries)
+        names << entry.fileName;
+    return names;
+}
+
+bool HasName(const QList<TemplateEntry>& entries, const QString& name)
+{
+    return std::ranges::any_of(
+        entries, [&](const TemplateEntry& entry) { return entry.name.compare(name, Qt::CaseInsensitive) == 0; });
+}
+
+void Remove(const QString& file)
+{
+    if (!QFile::remove(file))
+        throw HostError(QStringLiteral("cannot remove %1").arg(file));
+}
+
+/// "Pumps.xml" becomes "Pumps (recovered).xml", or with a number when that is taken.
+QString RecoveredName(const QDir& folder, const QString& fileName)
+{
+    const QFileInfo info(fileName);
+    for (int number = 1;; ++number) {
+        const QString mark = number == 1 ? QStringLiteral("recovered") : QStringLiteral("recovered %1").arg(number);
+        const QString name = QStringLiteral("%1 (%2).%3").arg(info.completeBaseName(), mark, info.suffix());
+        if (!folder.exists(name))
+            return name;
+    }
+}
+
+} // namespace
+
+TemplateFolder::TemplateFolder(Project& project, const QString& folder)
+    : m_project(project), m_path(QFileInfo(folder).absoluteFilePath())
+{
+    if (!QDir().mkpath(m_path))
+        throw HostError(QStringLiteral("cannot make the folder %1").arg(m_path));
+    ReadMemory();
+}
+
+void TemplateFolder::LayOut()
+{
+    const QStringList listed = FileNames(m_project.Templates());
+    for (const QString& name : listed) {
+        const QString wanted = m_project.TemplateText(name);
+        const QString present = TextOf(name);
+        if (present == wanted)
+            continue;
+        if (!present.isEmpty() && IsChanged(name, present))
+            KeepAside(name);
+        WriteXmlFile(FileOf(name), wanted);
+        m_laidOut.insert(Folded(name), Checksum(wanted));
+    }
+    RemoveGone(listed);
+    WriteMemory();
+}
+
+FileTexts TemplateFolder::Changed(const QStringList& expected) const
+{
+    const QStringList listed = FileNames(m_project.Templates());
+    FileTexts changed;
+    for (const QString& name : expected) {
+        const QString text = TextOf(name);
+        if (!text.isEmpty() && (!Holds(listed, name) || IsChanged(name, text)))
+            changed.append({name, text});
+    }
+    return changed;
+}
+
+FileTexts TemplateFolder::ChangedElsewhere(const FileTexts& changed) const
+{
+    FileTexts others;
+    for (const auto& [name, text] : changed) {
+        const QString stored = m_project.TemplateText(name);
+        if (!stored.isEmpty() && stored != text && IsChanged(name, stored))
+            others.append({name, stored});
+    }
+    return others;
+}
+
+void TemplateFolder::Remember(const FileTexts& texts)
+{
+    for (const auto& [name, text] : texts)
+        m_laidOut.insert(Folded(name), Checksum(text));
+    WriteMemory();
+}
+
+QStringList TemplateFolder::Orphans() const
+{
+    const QStringList listed = FileNames(m_project.Templates());
+    QStringList orphans = QDir(m_path).entryList(kTemplateFiles, QDir::Files, QDir::Name);
+    orphans.removeIf([&](const QString& name) { return Holds(listed, name); });
+    return orphans;
+}
+
+void TemplateFolder::Adopt(const QString& fileName)
+{
+    const QString text = TextOf(fileName);
+    const QList<TemplateEntry> shown = m_project.Templates();
+    const FileTexts texts{{fileName, text}};
+    TemplateEntry entry = EntryOfFile(fileName, text);
+    if (HasName(shown, entry.name))
+        entry.name = QFileInfo(fileName).completeBaseName(); // what was saved twice is known by its file
+    m_project.MergeTemplates(shown, shown + QList{entry}, texts);
+    Remember(texts);
+}
+
+QString TemplateFolder::FileOf(const QString& fileName) const
+{
+    return QDir(m_path).filePath(fileName);
+}
+
+/// Empty when there is no such file.
+QString TemplateFolder::TextOf(const QString& fileName) const
+{
+    const QString file = FileOf(fileName);
+    return QFileInfo::exists(file) ? ReadXmlFile(file) : QString();
+}
+
+bool TemplateFolder::IsChanged(const QString& fileName, const QString& text) const
+{
+    return m_laidOut.value(Folded(fileName)) != Checksum(text);
+}
+
+void TemplateFolder::KeepAside(const QString& fileName)
+{
+    const QString aside = FileOf(RecoveredName(QDir(m_path), fileName));
+    if (!QFile::rename(FileOf(fileName), aside))
+        throw HostError(QStringLiteral("cannot rename %1 to %2").arg(FileOf(fileName), aside));
+}
+
+/// Takes away the files that were laid out and that the project has no longer. One that was changed here stays.
+void TemplateFolder::RemoveGone(const QStringList& listed)
+{
+    for (const QString& name : QDir(m_path).entryList(kTemplateFiles, QDir::Files)) {
+        if (!Holds(listed, name) && !IsChanged(name, TextOf(name)))
+            Remove(FileOf(name));
+    }
+    m_laidOut.removeIf([&](const auto& remembered) { return !Holds(listed, remembered.key()); });
+}
+
+void TemplateFolder::ReadMemory()
+{
+    QFile file(FileOf(kMemory));
+    if (!file.open(QIODevice::ReadOnly))
+        return; // nothing was laid out yet; files that are there already are then changed ones
+    const QJsonObject memory = QJsonDocument::fromJson(file.readAll()).object();
+    for (auto entry = memory.begin(); entry != memory.end(); ++entry)
+        m_laidOut.insert(entry.key(), entry.value().toString());
+}
+
+void TemplateFolder::WriteMemory() const
+{
+    QJsonObject memory;
+    for (auto entry = m_laidOut.begin(); entry != m_laidOut.end(); ++entry)
+        memory.insert(entry.key(), entry.value());
+    ReplaceFile(FileOf(kMemory), QJsonDocument(memory).toJson());
+}
+
+QString OwnTemplateFolder(const Project& project)
+{
+    const QDir own(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    return own.filePath(QStringLiteral("projects/%1/templates").arg(project.Id()));
+}
+
+TemplateEntry EntryOfFile(const QString& fileName, const QString& text)
+{
+    QXmlStreamReader reader(text);
+    while (!reader.atEnd() &&
+           !(reader.readNext() == QXmlStreamReader::StartElement && reader.name() == QLatin1String("Template")))
+        continue;
+    if (reader.atEnd())
+        throw HostError(QStringLiteral("%1 is no template").arg(fileName));
+    const auto attributes = reader.attributes();
+    const QString name = attributes.value(QStringLiteral("Name")).toString().trimmed();
+    return {.name = name.isEmpty() ? QFileInfo(fileName).completeBaseName() : name,
+            .fileName = fileName,
+            .pdsg = {},
+            .category = attributes.value(QStringLiteral("Category")).toString().trimmed()};
+}
+
+} // namespace schedules::host

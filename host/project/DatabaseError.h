@@ -1,0 +1,17 @@
+#pragma once
+
+#include "host/HostError.h"
+
+#include <QSqlError>
+
+namespace schedules::host {
+
+class ProjectAddress;
+
+/// What a database says, in one line for the user, which names the project and never a password.
+HostError DatabaseError(const ProjectAddress& address, const QSqlError& error);
+
+/// The same of a server that does not answer any more.
+HostError LostConnection(const ProjectAddress& address);
+
+} // namespace schedules::host

@@ -1,0 +1,146 @@
+#pragma once
+
+#include "host/Answering.h"
+#include "host/CommandLine.h"
+#include "host/answers/ProjectAnswers.h"
+#include "host/project/Project.h"
+#include "host/schedule/ScheduleBuilder.h"
+#include "host/window/HostSettings.h"
+
+#include <QMainWindow>
+
+#include <memory>
+#include <optional>
+
+class QActionGroup;
+class QMenu;
+class QStackedWidget;
+
+namespace schedules::host {
+
+class CategoryDock;
+class HelpWindow;
+class MessageBar;
+class MessageDock;
+class OptionsTool;
+class ScheduleTool;
+class Session;
+struct Crossing;
+
+/// The window on a project: its categories at the left, in the middle the selector or the schedule of the picked tags,
+/// beside it the options editor while it is open, and below the messages that the tools exchange with this host.
+///
+/// What a tool wants to be closed goes when its message is over, since it is still at work in its own click. Closing
+/// the window asks about values and templates that are not saved.
+class ProjectWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// The session must outlive the window. `conflicts` decides instead of a dialog.
+    explicit ProjectWindow(Session& session, const Answering& answering = {}, ConflictQuestion conflicts = {});
+    ~ProjectWindow() override;
+
+    /// Opens a project in place of the one that is open, in its own language unless one is named. False when the user
+    /// would not leave unsaved values, or it cannot be opened, which is told in a message box.
+    bool Open(const QString& address, const QString& language = {});
+
+    /// The same with a project that is open already.
+    void Show(std::unique_ptr<Project> project, const QString& language = {});
+
+    /// Shows all windows in these colours, or, when they are the desktop's, in those that the user chose last.
+    void UseColours(Palette palette);
+
+    /// The view that is shown; none before a category is chosen.
+    ScheduleTool* View() const { return m_view.get(); }
+    OptionsTool* Options() const { return m_options.get(); }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    /// What belongs to the project that is open, in the order in which it is built.
+    struct OpenProject
+    {
+        std::unique_ptr<Project> project;
+        std::unique_ptr<TemplateFolder> folder;
+        std::unique_ptr<ProjectAnswers> answers;
+    };
+
+    /// What the schedule view shows.
+    struct ShownSchedule
+    {
+        QStringList tags;
+        TemplateLayout layout;
+    };
+
+    void BuildFileMenu();
+    void BuildViewMenu();
+    void BuildHelpMenu();
+    void BuildChoices(QMenu& menu, const QStringList& names, const QStringList& values, QActionGroup*& group,
+                      void (ProjectWindow::*chosen)(const QString&));
+    void CheckChoices();
+    void ListRecent();
+    void Restore();
+
+    void AskNew();
+    void AskOpen();
+    void AskServer();
+    void AskImport();
+    void ShowAbout();
+    void ChooseLanguage(const QString& language);
+    void ChoosePalette(const QString& palette);
+    void ShowIn(Palette palette);
+
+    void Connect(const ProjectAnswers& answers);
+    void ListCategories();
+    void OfferOrphans();
+    void AdoptOrphans();
+
+    void ChooseCategory(const QString& category);
+    void ChooseTemplate(const QString& category, const QString& fileName);
+    void ShowSelector();
+    void ShowSchedule(const QStringList& tags);
+    void UseTemplate(const QString& xml);
+    void TakeView(std::unique_ptr<ScheduleTool> view);
+    void EndView();
+    void Refresh();
+    void FreshenView(int stored, bool differs);
+
+    void ShowOptions();
+    void EndOptions();
+    bool MayDropTemplate();
+
+    bool MayReplaceView();
+    bool MayClose();
+    QString ScheduleText() const;
+    QList<ValueEdit> AskConflicts(const QList<Conflict>& conflicts);
+    void OnCrossed(const Crossing& crossing);
+
+    /// Does something later, when the message that asked for it is over. What fails is told.
+    void Later(std::function<void()> step);
+    void Guarded(const std::function<void()>& step);
+
+    Session& m_session;
+    Answering m_answering;
+    ConflictQuestion m_conflicts;
+    HostSettings m_settings;
+    QString m_language;
+    QString m_palette;
+    QMenu* m_recent = nullptr;
+    QActionGroup* m_languages = nullptr;
+    QActionGroup* m_palettes = nullptr;
+    MessageBar* m_bar;
+    QStackedWidget* m_place;
+    CategoryDock* m_categories;
+    QDockWidget* m_optionsDock;
+    MessageDock* m_messages;
+    HelpWindow* m_help = nullptr;
+    OpenProject m_open;
+    std::unique_ptr<ScheduleTool> m_view;
+    std::unique_ptr<OptionsTool> m_options;
+    std::optional<ShownSchedule> m_schedule; ///< nothing while the selector is shown
+    bool m_viewDone = false;                 ///< the view has told to unload it
+};
+
+} // namespace schedules::host

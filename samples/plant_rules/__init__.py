@@ -1,0 +1,1 @@
+"""The rules by which make_plant.py fills the sample plant."""
