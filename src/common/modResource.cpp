@@ -60,6 +60,7 @@ public:
     }
 
     void Close(int handle) { m_modules.erase(handle); }
+    bool Empty() const { return m_modules.empty(); }
 
     int HandleInUse() const { return m_handleInUse; }
     void Use(int handle) { m_handleInUse = handle; }
@@ -151,6 +152,11 @@ int OpenResourceModule(const QString& fileName)
 void CloseResourceModule(int handle)
 {
     Modules().Close(handle);
+}
+
+bool HasOpenResourceModules()
+{
+    return !Modules().Empty();
 }
 
 int ResourceModule()

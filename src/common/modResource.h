@@ -20,6 +20,7 @@ inline constexpr int kNoSuchMember = std::numeric_limits<int>::min();
 /// handle, or 0 when the file is not one.
 int OpenResourceModule(const QString& fileName);
 void CloseResourceModule(int handle);
+bool HasOpenResourceModules();
 
 /// The module that all tools take their texts from; 0 until a host supplies one. Any number can be set; one that is
 /// no open module has no texts.

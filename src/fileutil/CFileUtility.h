@@ -21,81 +21,84 @@ namespace schedules {
 /// that byte, so `DeleteFile(GetFilePath())` deletes the very file. Names are told without the blanks around them; a
 /// file whose own name begins or ends with blanks is not found again by what is told.
 ///
+/// A host that has loaded the component at run time gets one from its factory; the methods are virtual for its sake.
+///
 /// Nothing throws and nothing is reported. What fails gives false and leaves the current match as it is; before there
 /// was any, texts are empty and numbers zero. The match outlives the end of the search.
 class CFileUtility
 {
 public:
     CFileUtility() = default;
+    virtual ~CFileUtility() = default;
     Q_DISABLE_COPY_MOVE(CFileUtility)
 
     /// Closes an open search and begins one; an empty pattern means "*.*". True when there is a first match.
-    bool FindFile(const QString& strName);
+    virtual bool FindFile(const QString& strName);
 
     /// Moves to the next match; false when none is left or no search is open.
-    bool FindNextFile();
+    virtual bool FindNextFile();
 
     /// Deletes a file; of a link the link itself. False when it is missing, read-only or a folder.
-    bool DeleteFile(const QString& strfilename);
+    virtual bool DeleteFile(const QString& strfilename);
 
     /// Ends the search. Destruction does it, too.
-    void FindClose();
+    virtual void FindClose();
 
     /// The attributes of the current match, as bits of `FileAttribute`.
-    unsigned GetAttributes() const;
-    bool IsReadOnly() const;
-    bool IsHidden() const;
-    bool IsSystem() const;
-    bool IsDirectory() const;
-    bool IsArchived() const;
-    bool IsNormal() const;
-    bool IsTemporary() const;
-    bool IsCompressed() const;
+    virtual unsigned GetAttributes() const;
+    virtual bool IsReadOnly() const;
+    virtual bool IsHidden() const;
+    virtual bool IsSystem() const;
+    virtual bool IsDirectory() const;
+    virtual bool IsArchived() const;
+    virtual bool IsNormal() const;
+    virtual bool IsTemporary() const;
+    virtual bool IsCompressed() const;
 
     /// Whether the match is "." or "..".
-    bool IsDots() const;
+    virtual bool IsDots() const;
 
     /// Whether attributes and mask have a bit in common.
-    bool MatchesMask(unsigned dwMask) const;
+    virtual bool MatchesMask(unsigned dwMask) const;
 
     /// Local time as "2024, 03, 31 14:05:09": year, month, day, hour, minute and second.
-    QString GetLastWriteTime() const;
-    QString GetLastAccessTime() const;
-    QString GetCreationDate() const;
+    virtual QString GetLastWriteTime() const;
+    virtual QString GetLastAccessTime() const;
+    virtual QString GetCreationDate() const;
 
     /// The halves of the same as a count of 100 nanoseconds since the start of 1601, UTC.
-    int GetLastWriteTimeHigh() const;
-    int GetLastWriteTimeLow() const;
-    int GetLastAccessTimeHigh() const;
-    int GetLastAccessTimeLow() const;
-    int GetCreationDateHigh() const;
-    int GetCreationDateLow() const;
+    virtual int GetLastWriteTimeHigh() const;
+    virtual int GetLastWriteTimeLow() const;
+    virtual int GetLastAccessTimeHigh() const;
+    virtual int GetLastAccessTimeLow() const;
+    virtual int GetCreationDateHigh() const;
+    virtual int GetCreationDateLow() const;
 
     /// The folder part of the latest pattern as it was written, with its separator, without blanks around it.
-    QString GetRoot() const;
+    virtual QString GetRoot() const;
 
     /// "file://" and the absolute path, with "/" for each separator, not percent-encoded. A relative pattern is taken
     /// from the folder that was current when its search began.
-    QString GetFileURL() const;
+    virtual QString GetFileURL() const;
 
     /// The name up to its first "."; the whole name when there is none.
-    QString GetFileTitle() const;
+    virtual QString GetFileTitle() const;
 
     /// The folder part of the pattern that found the match, as it was written, and the name.
-    QString GetFilePath() const;
+    virtual QString GetFilePath() const;
 
-    QString GetFileName() const;
+    virtual QString GetFileName() const;
 
     /// The same as the long forms, since files have no short names here.
-    QString GetShortPath() const;
-    QString GetShortName() const;
+    virtual QString GetShortPath() const;
+    virtual QString GetShortName() const;
 
     /// The lower 32 bits of the size in bytes, as a signed number.
-    int GetLength() const;
+    virtual int GetLength() const;
 
     /// The size in bytes below 2 GiB. In general it is the upper half of the size times 2E+32 plus the lower half as a
     /// signed number: wrong from 2 GiB on, in the very way that callers know.
-    double GetLength64() const;
+    virtual double GetLength64() const;
 
 private:
     struct Folder

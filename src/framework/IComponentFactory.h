@@ -5,11 +5,15 @@
 #include <QStringList>
 #include <QtPlugin>
 
+#include <memory>
+
 namespace schedules {
 
+class CFileUtility;
 class UserInterface;
 
-/// The way into the component: linked, through `ComponentFactory()`, or loaded at run time with `QPluginLoader`.
+/// The way into the component: linked, through `ComponentFactory()`, or loaded at run time with `QPluginLoader`. The
+/// interface's name ends in its version: what another version of the component exports is not taken for this one.
 class IComponentFactory
 {
 public:
@@ -24,6 +28,16 @@ public:
     /// owns it. Message boxes, file dialogs and the like go through `userInterface`, which must outlive the tool;
     /// with none the desktop's are used.
     virtual QObject* CreateTool(const QString& name, UserInterface* userInterface = nullptr) = 0;
+
+    /// The type names that `CreateUtility` knows.
+    virtual QStringList UtilityNames() const = 0;
+
+    /// A new object of a type that no user sees: the search for files, "CFileUtility"; null for any other name.
+    virtual std::unique_ptr<CFileUtility> CreateUtility(const QString& name) = 0;
+
+    /// Whether a host that has loaded the component may unload it: true when each tool and utility that was created
+    /// is gone and no resource module is open. Not to be asked while one of them is being destroyed.
+    virtual bool MayUnload() const = 0;
 
     /// Opens a table of localised texts (a compiled message catalogue, `.qm`). Returns its handle, a positive number,
     /// which a tool receives as the reply to "GetResourceModule"; 0 when the file is no such table.

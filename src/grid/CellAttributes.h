@@ -45,7 +45,7 @@ private:
 
     static constexpr std::size_t kMostRemembered = 4096;
 
-    const CellAttributes m_plain;
+    const CellAttributes m_plain{};
     std::string m_key;
     std::unordered_map<std::string, CellAttributes, Hash, std::equal_to<>> m_known;
 };

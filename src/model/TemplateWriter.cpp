@@ -52,7 +52,7 @@ private:
     template <class Members>
     void WriteEach(const Members& members)
     {
-        members.ForEach([this](const auto& member) { WriteMember(*member); });
+        members.ForEach([this](const auto& member) { this->WriteMember(*member); });
     }
 
     void WriteMember(const CGroup& group)

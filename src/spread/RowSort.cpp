@@ -96,14 +96,14 @@ public:
     void Sort(int first, int end, RowOrder order)
     {
         const std::span rows(m_rows.begin() + first, m_rows.begin() + end);
-        const auto blanks =
-            std::ranges::stable_partition(rows, [](const KeyedRow& row) { return row.kind != Kind::Blank; });
+        const auto isFilled = [](const KeyedRow& row) { return row.kind != Kind::Blank; };
+        const auto blanks = std::stable_partition(rows.begin(), rows.end(), isFilled);
         const auto ascending = [this](const KeyedRow& left, const KeyedRow& right) { return Before(left, right); };
         const auto descending = [this](const KeyedRow& left, const KeyedRow& right) { return Before(right, left); };
         if (order == RowOrder::Ascending)
-            std::stable_sort(rows.begin(), blanks.begin(), ascending);
+            std::stable_sort(rows.begin(), blanks, ascending);
         else
-            std::stable_sort(rows.begin(), blanks.begin(), descending);
+            std::stable_sort(rows.begin(), blanks, descending);
     }
 
     std::vector<int> Numbers() const

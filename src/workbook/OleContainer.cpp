@@ -5,6 +5,7 @@
 #include <array>
 #include <cerrno>
 #include <cstring>
+#include <dlfcn.h>
 #include <gsf/gsf.h>
 #include <unistd.h>
 
@@ -18,6 +19,14 @@ constexpr std::array<guint8, 16> kWorkbookClass{0x20, 0x08, 0x02, 0, 0, 0, 0, 0,
 const guint8* BytesOf(std::string_view bytes)
 {
     return reinterpret_cast<const guint8*>(bytes.data());
+}
+
+/// GLib never forgets the types that the library registers with it. So its code has to stay when the component goes.
+void KeepInProcess()
+{
+    Dl_info library;
+    if (::dladdr(reinterpret_cast<const void*>(&gsf_init), &library) != 0)
+        ::dlopen(library.dli_fname, RTLD_NOW | RTLD_NOLOAD | RTLD_NODELETE);
 }
 
 bool Closed(GsfOutput* output)
@@ -36,6 +45,7 @@ void CloseKeepingError(int handle)
 
 OleContainer::OleContainer(QFileDevice& file) : m_fileName(file.fileName())
 {
+    KeepInProcess();
     gsf_init();
     const int handle = ::dup(file.handle());
     Require(handle >= 0);

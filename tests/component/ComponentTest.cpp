@@ -1,67 +1,16 @@
-#include "framework/IComponentFactory.h"
-#include "framework/IMsgRouter.h"
+#include "component/LoadedComponent.h"
+#include "fileutil/CFileUtility.h"
 #include "framework/IToolUI.h"
-#include "support/ScriptedUserInterface.h"
 
-#include <QPluginLoader>
+#include <QAction>
+#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QWidget>
 
-#include <gtest/gtest.h>
-#include <memory>
-
 namespace schedules {
 
 namespace {
-
-const QString kLibrary = QStringLiteral(SCHEDULES_BIN_DIR "/libSchedules.so");
-
-const QString kSchedule = QStringLiteral("<TABLE><TR><TH/><TH>Flow</TH></TR><TR><TH>P-1</TH><TD>12</TD></TR></TABLE>");
-
-/// A host that knows nothing but the contract.
-class Host : public IMsgRouter
-{
-public:
-    QString Send(const Envelope& envelope) override
-    {
-        bodies += envelope.body.toString();
-        return envelope.body.toString().contains(QStringLiteral("GetResourceModule")) ? QStringLiteral("0") : QString();
-    }
-
-    QStringList bodies;
-};
-
-/// The component as a host without its import library gets it: loaded at run time.
-class ComponentTest : public ::testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(loader.load()) << loader.errorString().toStdString();
-        factory = qobject_cast<IComponentFactory*>(loader.instance());
-        ASSERT_TRUE(factory);
-    }
-
-    std::unique_ptr<QObject> Created(const QString& name)
-    {
-        return std::unique_ptr<QObject>(factory->CreateTool(name, &user));
-    }
-
-    void Start(QObject& tool)
-    {
-        tool.setProperty("ViewType", 1);
-        auto* toolUi = qobject_cast<IToolUI*>(&tool);
-        toolUi->IToolUI_Initialize(&host, QStringLiteral("Host"));
-        toolUi->IToolUI_XML(kSchedule);
-        toolUi->IToolUI_Activate();
-    }
-
-    QPluginLoader loader{kLibrary};
-    IComponentFactory* factory = nullptr;
-    testing::ScriptedUserInterface user;
-    Host host;
-};
 
 QStringList ExportedNames()
 {
@@ -104,6 +53,21 @@ TEST_F(ComponentTest, CreatesNothingForAnUnknownName)
 {
     EXPECT_FALSE(factory->CreateTool(QStringLiteral("CTLSCHEDULE"), &user));
     EXPECT_FALSE(factory->CreateTool(QString(), &user));
+}
+
+TEST_F(ComponentTest, CreatesTheSearchForFilesByItsName)
+{
+    EXPECT_EQ(factory->UtilityNames(), QStringList{QStringLiteral("CFileUtility")});
+    const auto search = factory->CreateUtility(QStringLiteral("CFileUtility"));
+    ASSERT_TRUE(search);
+    EXPECT_TRUE(search->FindFile(kLibrary));
+    EXPECT_EQ(search->GetFileName(), QStringLiteral("libSchedules.so"));
+}
+
+TEST_F(ComponentTest, CreatesNoUtilityForAnUnknownName)
+{
+    EXPECT_FALSE(factory->CreateUtility(QStringLiteral("ctlSchedule")));
+    EXPECT_FALSE(factory->CreateUtility(QString()));
 }
 
 TEST_F(ComponentTest, DrivesAToolThroughTheToolInterface)
@@ -158,8 +122,9 @@ TEST(ComponentLibrary, ExportsTheContractAndNothingElse)
                        "schedules::(TextOf|FlagOf|FoldedKey|MemberId::(Set|ForgetOnWrite))(\\[abi:\\w+\\])?\\(.*|"
                        "schedules::CFileUtility::(Find|DeleteFile|Get|Is|MatchesMask).*|"
                        "schedules::DirectorySearch::~DirectorySearch\\(.*|"
+                       "schedules::CSchedule::GetUnitLabel\\(.*|"
                        "(vtable|typeinfo|typeinfo name|non-virtual thunk to|guard variable) ?(for)? ?"
-                       "schedules::(Sheet|IToolUI|IMsgRouter|IComponentFactory|UserInterface)\\b.*)$"));
+                       "schedules::(Sheet|CFileUtility|IToolUI|IMsgRouter|IComponentFactory|UserInterface)\\b.*)$"));
     const QStringList names = ExportedNames();
     EXPECT_GT(names.size(), 10);
     for (const QString& name : names)

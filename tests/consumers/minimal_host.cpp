@@ -1,0 +1,70 @@
+// The smallest complete host. It shows a schedule, edits a value of it as a user would, saves, and prints what it was
+// handed over and what the grid shows then. Its argument is the folder of the component's texts.
+
+#include "framework/IComponentFactory.h"
+#include "framework/IMsgRouter.h"
+#include "framework/IToolUI.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QKeyEvent>
+#include <QMainWindow>
+#include <QTemporaryDir>
+
+#include <cstdio>
+
+class Router : public schedules::IMsgRouter
+{
+public:
+    explicit Router(int texts) : m_texts(texts) {}
+
+    QString Send(const schedules::Envelope& envelope) override
+    {
+        const QString message = envelope.body.toString();
+        if (message.startsWith("<message name=\"GetResourceModule\""))
+            return QString::number(m_texts);
+        if (message.startsWith("<message name=\"UpdateTagScheduleData\""))
+            std::printf("%s\n", qPrintable(message)); // a real host stores the values that are marked "Dirty"
+        return {};
+    }
+
+private:
+    int m_texts;
+};
+
+void Press(QWidget* widget, int key, const QString& text = {})
+{
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QCoreApplication::sendEvent(widget, &press);
+}
+
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    auto& component = schedules::ComponentFactory();
+    const int texts = component.OpenResourceModule(application.arguments().value(1) + "/Schedules_en.qm");
+    Router router(texts);
+    QMainWindow window;
+
+    auto* view = qobject_cast<QWidget*>(component.CreateTool("ctlSchedule"));
+    auto* tool = qobject_cast<schedules::IToolUI*>(view);
+    view->setProperty("ViewType", 1); // a schedule, whose values may be edited
+    tool->IToolUI_Initialize(&router, "MinimalHost");
+    tool->IToolUI_XML("<TABLE><TR><TH>Pump</TH><TH>Flow</TH><TH>Head</TH></TR>"
+                      "<TR><TH>P-101A</TH><TD AllowEdit='-1'>412.0</TD><TD>48.0</TD></TR></TABLE>");
+    tool->IToolUI_Activate();
+    window.setCentralWidget(view); // which makes the window its owner
+    window.show();
+
+    Press(view->findChild<QWidget*>("vaSpread1"), Qt::Key_Down); // opens the first value
+    Press(view->findChild<QWidget*>("txtEditCell"), Qt::Key_unknown, "7");
+    Press(view->findChild<QWidget*>("txtEditCell"), Qt::Key_Return);
+    QMetaObject::invokeMethod(view, "ab_ToolClick", Q_ARG(QString, "btnSaveTag"));
+
+    QTemporaryDir folder;
+    QFile shown(folder.filePath("shown.csv"));
+    QMetaObject::invokeMethod(view, "WriteFile", Q_ARG(QString, "csv"), Q_ARG(QString, shown.fileName()));
+    const bool isRead = texts > 0 && shown.open(QFile::ReadOnly);
+    std::printf("%s", shown.readAll().constData());
+    return isRead ? 0 : 1; // a real host goes on with application.exec()
+}
