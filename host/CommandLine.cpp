@@ -191,6 +191,15 @@ CommandLine Checked(const QCommandLineParser& parser)
     return commandLine;
 }
 
+/// The value that `set` stores may be a negative number, which is no option then.
+QStringList WithPlainValue(QStringList arguments)
+{
+    static const QRegularExpression negative(QStringLiteral("^-[0-9.,]"));
+    if (arguments.size() == 5 && FormOf(arguments.first()) == Form::Set && arguments.last().contains(negative))
+        arguments.insert(4, QStringLiteral("--"));
+    return arguments;
+}
+
 } // namespace
 
 bool CommandLine::ShowsWindow() const
@@ -214,7 +223,7 @@ std::variant<CommandLine, UsageError> ParseCommandLine(const QStringList& argume
 {
     QCommandLineParser parser;
     AddOptions(parser);
-    if (!parser.parse(QStringList{QStringLiteral("schedhost")} + arguments))
+    if (!parser.parse(QStringList{QStringLiteral("schedhost")} + WithPlainValue(arguments)))
         return UsageError{parser.errorText().simplified()};
     try {
         return Checked(parser);

@@ -20,4 +20,11 @@ private:
     QByteArray m_what;
 };
 
+/// A server does not let the user in with the password that he gave, or without one.
+class LoginRefused : public HostError
+{
+public:
+    using HostError::HostError;
+};
+
 } // namespace schedules::host

@@ -33,9 +33,9 @@ void HostRouter::Deliver(Crossing& crossing) const
 {
     if (!crossing.message)
         return;
-    const auto answer = m_answers.find(crossing.message->name);
-    if (answer != m_answers.end())
-        crossing.reply = (*answer)(*crossing.message);
+    // A copy: what is done for the answer may take it back.
+    if (const Answer answer = m_answers.value(crossing.message->name))
+        crossing.reply = answer(*crossing.message);
 }
 
 } // namespace schedules::host

@@ -1,11 +1,11 @@
 #include "host/MainWindow.h"
 
 #include "framework/IComponentFactory.h"
-#include "host/project/DataFolder.h"
 #include "host/HostError.h"
 #include "host/HostRouter.h"
 #include "host/MessageDock.h"
 #include "host/ScheduleTool.h"
+#include "host/project/DataFolder.h"
 
 #include <QActionGroup>
 #include <QCloseEvent>

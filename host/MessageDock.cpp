@@ -4,8 +4,10 @@
 #include "host/MessageModel.h"
 
 #include <QComboBox>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -31,16 +33,33 @@ MessageDock::MessageDock(QWidget* parent)
 QWidget* MessageDock::FilterRow()
 {
     auto* row = new QWidget(this);
-    auto* kinds = new QComboBox(row);
-    kinds->setObjectName(QStringLiteral("cboMessageKinds"));
-    kinds->addItems({tr("All messages"), tr("Requests"), tr("Events"), tr("Errors")}); // in the order of the kinds
-    connect(kinds, &QComboBox::currentIndexChanged, m_filter,
+    m_kinds = new QComboBox(row);
+    m_kinds->setObjectName(QStringLiteral("cboMessageKinds"));
+    m_kinds->addItems(KindNames());
+    connect(m_kinds, &QComboBox::currentIndexChanged, m_filter,
             [this](int index) { m_filter->ShowKind(MessageFilter::Kind(index)); });
     auto* line = new QHBoxLayout(row);
     line->setContentsMargins(4, 2, 4, 2);
-    line->addWidget(kinds);
+    line->addWidget(m_kinds);
     line->addStretch();
     return row;
+}
+
+/// In the order of the kinds.
+QStringList MessageDock::KindNames()
+{
+    return {tr("All messages"), tr("Requests"), tr("Events"), tr("Errors")};
+}
+
+void MessageDock::changeEvent(QEvent* event)
+{
+    QDockWidget::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange)
+        return;
+    setWindowTitle(tr("Messages"));
+    const QStringList names = KindNames();
+    for (int kind = 0; kind < names.size(); ++kind)
+        m_kinds->setItemText(kind, names[kind]);
 }
 
 void MessageDock::BuildList()
@@ -60,8 +79,11 @@ void MessageDock::BuildList()
 
 void MessageDock::Append(const Crossing& crossing)
 {
+    const auto* bar = m_list->verticalScrollBar();
+    const bool isAtEnd = bar->value() == bar->maximum(); // else somebody reads
     m_model->Append(crossing);
-    m_list->scrollToBottom();
+    if (isAtEnd)
+        m_list->scrollToBottom();
 }
 
 } // namespace schedules::host

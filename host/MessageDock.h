@@ -4,6 +4,7 @@
 
 #include <QDockWidget>
 
+class QComboBox;
 class QTreeView;
 
 namespace schedules::host {
@@ -21,13 +22,18 @@ public:
 
     void Append(const Crossing& crossing);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    static QStringList KindNames();
     void BuildList();
     QWidget* FilterRow();
 
     MessageModel* m_model;
     MessageFilter* m_filter;
     QTreeView* m_list;
+    QComboBox* m_kinds = nullptr;
 };
 
 } // namespace schedules::host

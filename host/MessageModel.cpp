@@ -1,10 +1,16 @@
 #include "host/MessageModel.h"
 
+#include <algorithm>
+
 namespace schedules::host {
 
 namespace {
 
 constexpr int kLongestLine = 200;
+constexpr int kLongestTip = 2000;
+
+/// Some of them hold whole schedules.
+constexpr qsizetype kMostKept = 1000;
 
 QString ParametersText(const Crossing& crossing)
 {
@@ -49,10 +55,20 @@ QString OnOneLine(const QString& text)
 
 void MessageModel::Append(const Crossing& crossing)
 {
-    const int end = rowCount();
-    beginInsertRows({}, end, end);
-    m_crossings.append(crossing);
+    const auto later = std::ranges::upper_bound(m_crossings, crossing.time, {}, &Crossing::time);
+    const int row = static_cast<int>(later - m_crossings.begin());
+    beginInsertRows({}, row, row);
+    m_crossings.insert(row, crossing);
     endInsertRows();
+    if (m_crossings.size() > kMostKept)
+        ForgetOldest();
+}
+
+void MessageModel::ForgetOldest()
+{
+    beginRemoveRows({}, 0, 0);
+    m_crossings.removeFirst();
+    endRemoveRows();
 }
 
 int MessageModel::rowCount(const QModelIndex& parent) const
@@ -74,7 +90,7 @@ QVariant MessageModel::data(const QModelIndex& index, int role) const
     const QString text = FieldText(m_crossings[index.row()], index.column());
     if (role == Qt::DisplayRole)
         return OnOneLine(text);
-    return text.size() > kLongestLine ? text : QVariant();
+    return text.size() > kLongestLine ? text.left(kLongestTip) : QVariant();
 }
 
 QVariant MessageModel::headerData(int section, Qt::Orientation orientation, int role) const

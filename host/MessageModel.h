@@ -7,7 +7,8 @@
 
 namespace schedules::host {
 
-/// Every message that crossed the router, oldest first, for a table on screen.
+/// The latest messages that crossed the router, oldest first, for a table on screen. One that was sent while another
+/// one waited for its answer comes behind that one, as it began later.
 class MessageModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -33,11 +34,13 @@ public:
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
 
-    /// A field's text; the tool tip gives long ones in full.
+    /// A field's text; the tool tip gives more of long ones.
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
 private:
+    void ForgetOldest();
+
     QList<Crossing> m_crossings;
 };
 

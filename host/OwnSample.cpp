@@ -1,13 +1,14 @@
 #include "host/OwnSample.h"
 
-#include "host/project/DataFolder.h"
 #include "host/HostError.h"
 #include "host/XmlFile.h"
 #include "host/import/SampleProject.h"
+#include "host/project/DataFolder.h"
 #include "host/project/Project.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -61,6 +62,10 @@ QString OwnProject()
     if (QFileInfo::exists(own))
         return own;
     MakeFolder(QFileInfo(own).path());
+    QLockFile onlyOne(own + QStringLiteral(".lock"));
+    onlyOne.lock(); // where that fails the project cannot be made either, which is told
+    if (QFileInfo::exists(own))
+        return own;
     // It gets its name when it is complete, so that a start that was cut short leaves none.
     const QString unfinished = OwnPath(QStringLiteral("unfinished.schedules"));
     QFile::remove(unfinished);

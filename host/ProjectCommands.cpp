@@ -5,6 +5,7 @@
 #include "host/answers/ProjectSchedule.h"
 #include "host/import/Import.h"
 #include "host/import/SampleProject.h"
+#include "host/project/Names.h"
 #include "host/project/Project.h"
 
 #include <algorithm>
@@ -12,11 +13,6 @@
 namespace schedules::host {
 
 namespace {
-
-bool Same(const QString& one, const QString& other)
-{
-    return one.compare(other, Qt::CaseInsensitive) == 0;
-}
 
 void PrintLine(const QString& line)
 {
@@ -31,7 +27,7 @@ QString Amount(int count, const char* one, const char* many)
 Tag TagOf(const Project& project, const QString& name)
 {
     const QList<Tag> tags = project.Tags();
-    const auto tag = std::ranges::find_if(tags, [&](const Tag& each) { return Same(each.name, name); });
+    const auto tag = std::ranges::find_if(tags, [&](const Tag& each) { return SameName(each.name, name); });
     if (tag == tags.end())
         throw HostError(QStringLiteral("there is no tag %1").arg(name));
     return *tag;
@@ -50,10 +46,10 @@ QList<DataItem> ItemsOf(const Project& project, const QString& category)
 DataItem ItemOf(const Project& project, const Tag& tag, const QString& text)
 {
     QList<DataItem> found = project.Items();
-    found.removeIf([&](const DataItem& item) { return !Same(item.location, text); });
+    found.removeIf([&](const DataItem& item) { return !SameName(item.location, text); });
     if (found.isEmpty()) {
         found = ItemsOf(project, tag.category);
-        found.removeIf([&](const DataItem& item) { return !Same(item.name, text); });
+        found.removeIf([&](const DataItem& item) { return !SameName(item.name, text); });
     }
     if (found.isEmpty())
         throw HostError(QStringLiteral("there is no data item %1 for %2").arg(text, tag.name));
@@ -81,10 +77,10 @@ QByteArray TemplatesJson(const Project& project, const QString& category)
     const QString current = project.CurrentTemplate(category);
     QByteArrayList values;
     for (const TemplateEntry& entry : project.Templates()) {
-        if (Same(entry.category, category))
+        if (SameName(entry.category, category))
             values << JsonObject({{"name", JsonText(entry.name)},
                                   {"file", JsonText(entry.fileName)},
-                                  {"current", JsonFlag(Same(entry.fileName, current))}});
+                                  {"current", JsonFlag(SameName(entry.fileName, current))}});
     }
     return JsonArray(values);
 }
@@ -111,14 +107,6 @@ QByteArray ValueJson(const DataItem& item, const StoredValue& value)
                        {"value", JsonText(value.text)},
                        {"unit", JsonText(item.unit)},
                        {"version", QByteArray::number(value.version)}});
-}
-
-QStringList Locations(const QList<DataItem>& items)
-{
-    QStringList locations;
-    for (const DataItem& item : items)
-        locations << item.location;
-    return locations;
 }
 
 /// What is stored for a tag: a line, or an object, for each value that there is.
@@ -166,11 +154,12 @@ void PrintCategories(const Project& project, bool asJson)
 
 int RunNew(const CommandLine& commandLine)
 {
-    const auto project = Project::Create(commandLine.files.first());
-    if (commandLine.project.sample)
-        FillWithSample(*project);
-    else if (!commandLine.project.empty)
-        FillWithStandards(*project);
+    const auto project = NewProject(commandLine.files.first(), [&](Project& made) {
+        if (commandLine.project.sample)
+            FillWithSample(made);
+        else if (!commandLine.project.empty)
+            FillWithStandards(made);
+    });
     PrintLine(project->Address().Text());
     return kDone;
 }
@@ -221,8 +210,7 @@ int RunSet(const CommandLine& commandLine)
     const auto project = Project::Open(commandLine.files[0]);
     const Tag tag = TagOf(*project, commandLine.files[1]);
     const DataItem item = ItemOf(*project, tag, commandLine.files[2]);
-    return StoreValue(*project,
-                      {tag.name, item.location, commandLine.files[3], ValueOf(*project, tag, item).version});
+    return StoreValue(*project, {tag.name, item.location, commandLine.files[3], ValueOf(*project, tag, item).version});
 }
 
 int StoreValue(Project& project, const ValueEdit& edit)

@@ -5,6 +5,7 @@
 #include "host/Outputs.h"
 #include "host/Palettes.h"
 #include "host/answers/ProjectSchedule.h"
+#include "host/project/Names.h"
 #include "host/project/Project.h"
 
 namespace schedules::host {
@@ -15,9 +16,8 @@ namespace {
 TemplateLayout NamedLayout(const Project& project, const QString& name)
 {
     for (const TemplateEntry& entry : project.Templates()) {
-        if (entry.fileName.compare(name, Qt::CaseInsensitive) == 0 ||
-            entry.name.compare(name, Qt::CaseInsensitive) == 0)
-            return ReadTemplateLayout(project.TemplateText(entry.fileName));
+        if (SameName(entry.fileName, name) || SameName(entry.name, name))
+            return LayoutOf(project, entry.fileName);
     }
     throw HostError(QStringLiteral("there is no template %1").arg(name));
 }
@@ -27,7 +27,7 @@ QString TextOf(const Project& project, const ProjectOptions& options)
     const QStringList tags = options.tags.isEmpty() ? TagNames(project, options.category) : options.tags;
     const TemplateLayout layout = options.templateFile.isEmpty() ? CurrentLayout(project, options.category)
                                                                  : NamedLayout(project, options.templateFile);
-    return ScheduleOf(project, options.category, tags, layout);
+    return ScheduleXml(layout, ContentOf(project, options.category, tags, layout));
 }
 
 QStringList OutputNames(const RenderOptions& options)

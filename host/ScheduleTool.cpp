@@ -94,6 +94,12 @@ void ScheduleTool::CommitEdit()
     m_tool->IToolUI_Deactivate(false);
 }
 
+bool ScheduleTool::IsEditing() const
+{
+    const auto* box = m_widget->findChild<QWidget*>(QStringLiteral("txtEditCell"));
+    return box && box->isVisible();
+}
+
 bool ScheduleTool::Dirty() const
 {
     return m_widget->property("TagDataDirty").toBool();

@@ -52,6 +52,9 @@ public:
     /// Ends an edit that is open, keeping its value.
     void CommitEdit();
 
+    /// Whether the user is in the midst of an edit.
+    bool IsEditing() const;
+
     /// Whether there are edited values that have not been saved.
     bool Dirty() const;
 

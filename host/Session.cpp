@@ -1,9 +1,15 @@
 #include "host/Session.h"
 
+#include "host/project/DataFolder.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
 namespace schedules::host {
 
 Session::Session(const CommandLine& commandLine) : m_language(std::make_unique<LanguageModule>(commandLine.language))
 {
+    Translate(commandLine.language);
     m_router.Answers(QStringLiteral("GetResourceModule"), [this](const Message&) { return m_language->Reply(); });
     if (commandLine.messages.isEmpty())
         return;
@@ -16,6 +22,15 @@ void Session::UseLanguage(const QString& language)
 {
     m_language.reset(); // closing it takes it out of use, whatever is in use by then
     m_language = std::make_unique<LanguageModule>(language);
+    Translate(language);
+}
+
+void Session::Translate(const QString& language)
+{
+    const QDir languages(DataFolder(QStringLiteral("languages")));
+    QCoreApplication::removeTranslator(&m_texts);
+    if (m_texts.load(languages.filePath(QStringLiteral("schedhost_%1.qm").arg(language))))
+        QCoreApplication::installTranslator(&m_texts);
 }
 
 void Session::RequireCompleteMessages() const

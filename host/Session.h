@@ -5,6 +5,8 @@
 #include "host/LanguageModule.h"
 #include "host/MessageFile.h"
 
+#include <QTranslator>
+
 #include <memory>
 #include <optional>
 
@@ -18,7 +20,7 @@ public:
     /// Throws `HostError` when the message file cannot be written.
     explicit Session(const CommandLine& commandLine);
 
-    /// The language of all tools created from now on. Before that those that there are must be gone.
+    /// The language of this host's windows at once, and of all tools created from now on. Before that those that there are must be gone.
     void UseLanguage(const QString& language);
 
     HostRouter& Router() { return m_router; }
@@ -27,7 +29,10 @@ public:
     void RequireCompleteMessages() const;
 
 private:
+    void Translate(const QString& language);
+
     std::unique_ptr<LanguageModule> m_language;
+    QTranslator m_texts; ///< of this host's own windows
     std::optional<MessageFile> m_messageFile;
     HostRouter m_router;
 };

@@ -9,8 +9,7 @@ namespace schedules::host {
 
 UnsavedValues AskAboutUnsaved(QWidget& window, const QString& file)
 {
-    const QString text =
-        QCoreApplication::translate("UnsavedValues", "There are edited values of %1 that are not saved.");
+    const QString text = QCoreApplication::translate("UnsavedValues", "%1 has edits that are not saved.");
     const auto answer =
         QMessageBox::warning(&window, window.windowTitle(), text.arg(file),
                              QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);

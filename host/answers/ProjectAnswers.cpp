@@ -2,11 +2,10 @@
 
 #include "host/HostError.h"
 #include "host/HostRouter.h"
+#include "host/project/Names.h"
 #include "host/project/Project.h"
 #include "host/project/TemplateListXml.h"
 #include "host/schedule/EditedCells.h"
-
-#include <QFileInfo>
 
 #include <algorithm>
 #include <span>
@@ -17,17 +16,26 @@ namespace {
 
 const TemplateEntry* EntryWithFile(const QList<TemplateEntry>& entries, const QString& fileName)
 {
-    const auto found = std::ranges::find_if(entries, [&](const TemplateEntry& entry) {
-        return entry.fileName.compare(fileName, Qt::CaseInsensitive) == 0;
-    });
+    const auto found =
+        std::ranges::find_if(entries, [&](const TemplateEntry& entry) { return SameName(entry.fileName, fileName); });
     return found == entries.end() ? nullptr : &*found;
+}
+
+/// The editor names a new template without its category; its file says which it is.
+void FillCategories(QList<TemplateEntry>& entries, const FileTexts& files)
+{
+    for (TemplateEntry& entry : entries) {
+        const auto file =
+            std::ranges::find_if(files, [&](const auto& text) { return SameName(text.first, entry.fileName); });
+        if (entry.category.isEmpty() && file != files.end())
+            entry.category = EntryOfFile(file->first, file->second).category;
+    }
 }
 
 bool IsTaken(const QList<TemplateEntry>& entries, const QString& name)
 {
     return std::ranges::any_of(entries, [&](const TemplateEntry& entry) {
-        return entry.name.compare(name, Qt::CaseInsensitive) == 0 ||
-               entry.fileName.compare(name + QStringLiteral(".xml"), Qt::CaseInsensitive) == 0;
+        return SameName(entry.name, name) || SameName(entry.fileName, name + QStringLiteral(".xml"));
     });
 }
 
@@ -39,14 +47,6 @@ QString FreeName(const QList<TemplateEntry>& entries, const QString& name)
         if (!IsTaken(entries, free))
             return free;
     }
-}
-
-QStringList FileNames(const QList<TemplateEntry>& entries)
-{
-    QStringList names;
-    for (const TemplateEntry& entry : entries)
-        names << entry.fileName;
-    return names;
 }
 
 } // namespace
@@ -127,8 +127,9 @@ QString ProjectAnswers::UseTemplate(const Message& message)
 
 QString ProjectAnswers::ReplaceList(const Message& message)
 {
-    QList<TemplateEntry> wanted = Completed(ReadTemplateList(ParameterText(message, QStringLiteral("ConfigXML"))));
+    QList<TemplateEntry> wanted = ReadTemplateList(ParameterText(message, QStringLiteral("ConfigXML")));
     const FileTexts changed = m_folder.Changed(FileNames(wanted));
+    FillCategories(wanted, changed);
     FileTexts texts = changed;
     KeepOthers(changed, wanted, texts);
     m_project.MergeTemplates(m_shown, wanted, texts);
@@ -136,18 +137,6 @@ QString ProjectAnswers::ReplaceList(const Message& message)
     m_shown = m_project.Templates();
     Q_EMIT TemplatesChanged();
     return {};
-}
-
-/// The editor names a new template without its category; its file says which it is.
-QList<TemplateEntry> ProjectAnswers::Completed(QList<TemplateEntry> entries) const
-{
-    const FileTexts files = m_folder.Changed(FileNames(entries));
-    for (TemplateEntry& entry : entries) {
-        const auto file = std::ranges::find_if(files, [&](const auto& text) { return text.first == entry.fileName; });
-        if (entry.category.isEmpty() && file != files.end())
-            entry.category = EntryOfFile(file->first, file->second).category;
-    }
-    return entries;
 }
 
 /// Where another client has stored a text of the same file since, his becomes a template of its own.
@@ -208,16 +197,20 @@ QString ProjectAnswers::PrintTags(const Message& message)
 QString ProjectAnswers::SaveValues(const Message& message)
 {
     const QString xml = ParameterText(message, QStringLiteral("ScheduleXml"));
-    SaveResult result = m_project.Save(EditedCells(xml, m_project.Items()));
+    const QList<ValueEdit> edits = EditedCells(xml, m_project.Items());
+    SaveResult result = m_project.Save(edits);
     int stored = result.stored;
     bool differs = false;
     while (!result.conflicts.isEmpty()) {
-        const QList<ValueEdit> insisted = m_conflicts(result.conflicts);
-        differs = differs || insisted.size() < result.conflicts.size();
-        result = m_project.Save(insisted);
+        const auto insisted = m_conflicts(result.conflicts);
+        if (!insisted)
+            throw HostError(
+                tr("%n value(s) changed by someone else were not saved.", nullptr, int(result.conflicts.size())));
+        differs = differs || insisted->size() < result.conflicts.size();
+        result = m_project.Save(*insisted);
         stored += result.stored;
     }
-    Q_EMIT Saved(stored, differs);
+    Q_EMIT Saved(edits, stored, differs);
     return {};
 }
 

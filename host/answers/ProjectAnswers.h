@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <optional>
 #include <span>
 
 namespace schedules {
@@ -19,8 +20,8 @@ class HostRouter;
 class Project;
 
 /// What the user wants where somebody else has stored another value since: the edits that are to be stored all the
-/// same.
-using ConflictQuestion = std::function<QList<ValueEdit>(const QList<Conflict>& conflicts)>;
+/// same, or nothing when he cannot decide now; his values stay unsaved in the view then.
+using ConflictQuestion = std::function<std::optional<QList<ValueEdit>>(const QList<Conflict>& conflicts)>;
 
 /// Answers the tools out of a project, and does in it what they tell: docs/host-protocol.md lists it message by
 /// message. What is to be seen of it on screen is told by signals, which come while the tool still waits for its reply.
@@ -55,8 +56,9 @@ Q_SIGNALS:
     void TagsPicked(const QStringList& tags);
     void TagsToPrint(const QStringList& tags);
 
-    /// Values were stored; the view needs fresh text. With `differs` it shows values that are not those stored.
-    void Saved(int stored, bool differs);
+    /// Edits of the schedule were saved, by which so many values are others now; the view needs fresh text. With
+    /// `differs` it shows values that were not stored, since the user has kept another one's.
+    void Saved(const QList<schedules::host::ValueEdit>& edits, int stored, bool differs);
 
     void HelpWanted(const QString& context);
     void ErrorTold(const QString& description);
@@ -83,7 +85,6 @@ private:
     QString TellError(const Message& message);
     QString Nothing(const Message&) { return {}; }
 
-    QList<TemplateEntry> Completed(QList<TemplateEntry> entries) const;
     void KeepOthers(const FileTexts& changed, QList<TemplateEntry>& wanted, FileTexts& texts);
 
     HostRouter& m_router;

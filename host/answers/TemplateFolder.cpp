@@ -3,6 +3,7 @@
 #include "host/FileReplacement.h"
 #include "host/HostError.h"
 #include "host/XmlFile.h"
+#include "host/project/Names.h"
 #include "host/project/Project.h"
 
 #include <QCryptographicHash>
@@ -22,11 +23,6 @@ namespace {
 const QString kMemory = QStringLiteral(".laid-out.json");
 const QStringList kTemplateFiles{QStringLiteral("*.xml")};
 
-QString Folded(const QString& fileName)
-{
-    return fileName.toCaseFolded();
-}
-
 QString Checksum(const QString& text)
 {
     return QString::fromLatin1(QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha256).toHex());
@@ -34,21 +30,12 @@ QString Checksum(const QString& text)
 
 bool Holds(const QStringList& names, const QString& name)
 {
-    return names.contains(name, Qt::CaseInsensitive);
-}
-
-QStringList FileNames(const QList<TemplateEntry>& entries)
-{
-    QStringList names;
-    for (const TemplateEntry& entry : entries)
-        names << entry.fileName;
-    return names;
+    return std::ranges::any_of(names, [&](const QString& each) { return SameName(each, name); });
 }
 
 bool HasName(const QList<TemplateEntry>& entries, const QString& name)
 {
-    return std::ranges::any_of(
-        entries, [&](const TemplateEntry& entry) { return entry.name.compare(name, Qt::CaseInsensitive) == 0; });
+    return std::ranges::any_of(entries, [&](const TemplateEntry& entry) { return SameName(entry.name, name); });
 }
 
 void Remove(const QString& file)
@@ -90,7 +77,7 @@ void TemplateFolder::LayOut()
         if (!present.isEmpty() && IsChanged(name, present))
             KeepAside(name);
         WriteXmlFile(FileOf(name), wanted);
-        m_laidOut.insert(Folded(name), Checksum(wanted));
+        m_laidOut.insert(FoldedName(name), Checksum(wanted));
     }
     RemoveGone(listed);
     WriteMemory();
@@ -122,7 +109,7 @@ FileTexts TemplateFolder::ChangedElsewhere(const FileTexts& changed) const
 void TemplateFolder::Remember(const FileTexts& texts)
 {
     for (const auto& [name, text] : texts)
-        m_laidOut.insert(Folded(name), Checksum(text));
+        m_laidOut.insert(FoldedName(name), Checksum(text));
     WriteMemory();
 }
 
@@ -160,7 +147,7 @@ QString TemplateFolder::TextOf(const QString& fileName) const
 
 bool TemplateFolder::IsChanged(const QString& fileName, const QString& text) const
 {
-    return m_laidOut.value(Folded(fileName)) != Checksum(text);
+    return m_laidOut.value(FoldedName(fileName)) != Checksum(text);
 }
 
 void TemplateFolder::KeepAside(const QString& fileName)

@@ -40,7 +40,7 @@ public:
     /// The files here are what the project has: it was given them just now.
     void Remember(const FileTexts& texts);
 
-    /// The files that no entry of the list names and that were not laid out.
+    /// The files that no entry of the list names.
     QStringList Orphans() const;
 
     /// Enters an orphan in the list, by what its root says. Throws as well when it is no template, or its name is

@@ -56,4 +56,18 @@ void FillWithSample(Project& project)
         ImportSample(project, category.name.toLower());
 }
 
+std::unique_ptr<Project> NewProject(const QString& address, const std::function<void(Project&)>& fill)
+{
+    auto project = Project::Create(address);
+    try {
+        fill(*project);
+    } catch (...) {
+        const QString file = project->Address().File();
+        project.reset();
+        QFile::remove(file);
+        throw;
+    }
+    return project;
+}
+
 } // namespace schedules::host

@@ -1,5 +1,10 @@
 #pragma once
 
+#include <QString>
+
+#include <functional>
+#include <memory>
+
 namespace schedules::host {
 
 class Project;
@@ -11,5 +16,8 @@ void FillWithStandards(Project& project);
 /// Fills an empty project with the sample plant: the standards, and tags of all categories with their values. Throws as
 /// `FillWithStandards`.
 void FillWithSample(Project& project);
+
+/// Makes a project and fills it. A file that could not be filled is not left behind. Throws `HostError`.
+std::unique_ptr<Project> NewProject(const QString& address, const std::function<void(Project&)>& fill);
 
 } // namespace schedules::host

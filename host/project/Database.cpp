@@ -93,7 +93,7 @@ void Database::Connect()
 {
     m_connection.close();
     if (!m_connection.open())
-        throw DatabaseError(m_address, m_connection.lastError());
+        ThrowOpeningError(m_address, m_connection.lastError());
     for (const QString& setting : Settings(m_address.OnServer()))
         Run(setting);
 }

@@ -74,6 +74,16 @@ HostError DatabaseError(const ProjectAddress& address, const QSqlError& error)
     return HostError(line.contains(QLatin1String("%2")) ? line.arg(address.Text(), text) : line.arg(address.Text()));
 }
 
+void ThrowOpeningError(const ProjectAddress& address, const QSqlError& error)
+{
+    const HostError told = DatabaseError(address, error);
+    // The library that connects tells no code for this, neither when the server refuses a password nor when it wants
+    // one.
+    if (address.OnServer() && error.databaseText().contains(QLatin1String("password")))
+        throw LoginRefused(told.Line());
+    throw told;
+}
+
 HostError LostConnection(const ProjectAddress& address)
 {
     return HostError(QStringLiteral("the connection to %1 was lost").arg(address.Text()));

@@ -46,11 +46,17 @@ QString ProjectAddress::Name() const
     return OnServer() ? m_url.path(QUrl::FullyDecoded).mid(1) : QFileInfo(m_file).fileName();
 }
 
+QString WithPassword(const QString& address, const QString& password)
+{
+    QUrl url(address);
+    url.setPassword(password);
+    return url.toString(QUrl::FullyEncoded);
+}
+
 bool NamesProject(const QString& text)
 {
-    if (NamesServer(text) || BeginsAsDatabase(text))
-        return true;
-    return text.endsWith(QLatin1String(".schedules"), Qt::CaseInsensitive) && !QFileInfo::exists(text);
+    return NamesServer(text) || text.endsWith(QLatin1String(".schedules"), Qt::CaseInsensitive) ||
+           BeginsAsDatabase(text);
 }
 
 } // namespace schedules::host

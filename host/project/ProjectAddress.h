@@ -30,8 +30,11 @@ private:
     QUrl m_url;
 };
 
-/// Whether a text that somebody gave is the address of a project: one on a server, or a file that begins as databases
-/// do, or one that does not exist and ends in ".schedules".
+/// An address on a server with another password.
+QString WithPassword(const QString& address, const QString& password);
+
+/// Whether a text that somebody gave is the address of a project: one on a server, a file whose name ends in
+/// ".schedules", or any other file that begins as databases do.
 bool NamesProject(const QString& text);
 
 } // namespace schedules::host

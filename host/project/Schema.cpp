@@ -129,12 +129,13 @@ void MakeSchema(Database& database, int version)
 
 void UpdateSchema(Database& database)
 {
-    Writing(database, [&] {
+    const bool isCurrent = Reading(database, [&] {
         RequireProject(database);
-        const int stored = StoredVersion(database);
-        if (stored < kSchemaVersion)
-            GoFrom(database, stored, kSchemaVersion);
+        return StoredVersion(database) == kSchemaVersion;
     });
+    if (isCurrent)
+        return; // others go on saving while a large file is checked
+    Writing(database, [&] { GoFrom(database, StoredVersion(database), kSchemaVersion); });
 }
 
 } // namespace schedules::host

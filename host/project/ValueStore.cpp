@@ -29,6 +29,15 @@ QVariantList AsValues(const QList<int>& numbers)
     return {numbers.begin(), numbers.end()};
 }
 
+/// 0 for a name that is not there.
+QList<int> IdsOf(const QStringList& names, const QHash<QString, int>& ids)
+{
+    QList<int> found;
+    for (const QString& name : names)
+        found << ids.value(NameKey(name));
+    return found;
+}
+
 int Required(const QHash<QString, int>& ids, const QString& name, QLatin1String kind)
 {
     const int id = ids.value(NameKey(name));
@@ -44,11 +53,12 @@ ValueTable ValueStore::Values(const QStringList& tags, const QStringList& items)
     const QHash<QString, int> tagIds = IdsByKey(m_database, kTags, tags);
     const QHash<QString, int> itemIds = IdsByKey(m_database, kItems, items);
     const Cells block = Block(tagIds.values(), itemIds.values());
+    const QList<int> columns = IdsOf(tags, tagIds);
     ValueTable table;
-    for (const QString& item : items) {
+    for (const int item : IdsOf(items, itemIds)) {
         QList<StoredValue>& line = table.emplace_back();
-        for (const QString& tag : tags)
-            line.append(block.value({tagIds.value(NameKey(tag)), itemIds.value(NameKey(item))}));
+        for (const int tag : columns)
+            line.append(block.value({tag, item}));
     }
     return table;
 }

@@ -1,7 +1,9 @@
 #include "host/window/CategoryDock.h"
 
+#include "host/project/Names.h"
 #include "host/project/Project.h"
 
+#include <QEvent>
 #include <QTreeWidget>
 
 namespace schedules::host {
@@ -10,11 +12,6 @@ namespace {
 
 constexpr int kCategoryRole = Qt::UserRole;
 constexpr int kFileRole = Qt::UserRole + 1;
-
-bool Same(const QString& one, const QString& other)
-{
-    return one.compare(other, Qt::CaseInsensitive) == 0;
-}
 
 void SetBold(QTreeWidgetItem& entry)
 {
@@ -33,20 +30,48 @@ CategoryDock::CategoryDock(QWidget* parent) : QDockWidget(tr("Equipment"), paren
     m_tree->setFrameShape(QFrame::NoFrame);
     setWidget(m_tree);
     connect(m_tree, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* entry) { Choose(entry); });
+    connect(m_tree, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* entry) {
+        if (!entry->parent())
+            Choose(entry);
+    });
+}
+
+bool CategoryDock::IsEmpty() const
+{
+    return m_tree->topLevelItemCount() == 0;
+}
+
+void CategoryDock::changeEvent(QEvent* event)
+{
+    QDockWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        setWindowTitle(tr("Equipment"));
 }
 
 void CategoryDock::Show(const Project& project, const QString& category)
 {
     const QList<Category> categories = project.Categories();
     const QList<TemplateEntry> templates = project.Templates();
+    const QSet<QString> expanded = Expanded();
     m_tree->clear();
     for (const Category& each : categories) {
         AddCategory(project, each, templates);
         QTreeWidgetItem* entry = m_tree->topLevelItem(m_tree->topLevelItemCount() - 1);
-        entry->setExpanded(Same(each.name, category));
-        if (Same(each.name, category))
+        entry->setExpanded(SameName(each.name, category) || expanded.contains(each.name));
+        if (SameName(each.name, category))
             m_tree->setCurrentItem(entry);
     }
+}
+
+QSet<QString> CategoryDock::Expanded() const
+{
+    QSet<QString> categories;
+    for (int index = 0; index < m_tree->topLevelItemCount(); ++index) {
+        const QTreeWidgetItem& entry = *m_tree->topLevelItem(index);
+        if (entry.isExpanded())
+            categories.insert(entry.data(0, kCategoryRole).toString());
+    }
+    return categories;
 }
 
 void CategoryDock::AddCategory(const Project& project, const Category& category, const QList<TemplateEntry>& templates)
@@ -57,12 +82,12 @@ void CategoryDock::AddCategory(const Project& project, const Category& category,
     entry->setData(0, kCategoryRole, category.name);
     const QString current = project.CurrentTemplate(category.name);
     for (const TemplateEntry& each : templates) {
-        if (!Same(each.category, category.name))
+        if (!SameName(each.category, category.name))
             continue;
         auto* child = new QTreeWidgetItem(entry, {each.name});
         child->setData(0, kCategoryRole, category.name);
         child->setData(0, kFileRole, each.fileName);
-        if (Same(each.fileName, current))
+        if (SameName(each.fileName, current))
             SetBold(*child);
     }
 }

@@ -3,6 +3,7 @@
 #include "host/project/ProjectTypes.h"
 
 #include <QDockWidget>
+#include <QSet>
 
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -12,7 +13,8 @@ namespace schedules::host {
 class Project;
 
 /// The categories of a project with the number of their tags, and below each its templates; that which its schedule
-/// uses is bold. A double click or Enter chooses.
+/// uses is bold. A click chooses a category; a template, which others would then see as well, takes a double click.
+/// Enter chooses both.
 class CategoryDock : public QDockWidget
 {
     Q_OBJECT
@@ -23,12 +25,18 @@ public:
     /// Lists what the project has now; `category` is the one that is being worked on. Throws `HostError`.
     void Show(const Project& project, const QString& category);
 
+    bool IsEmpty() const;
+
 Q_SIGNALS:
     void CategoryChosen(const QString& category);
     void TemplateChosen(const QString& category, const QString& fileName);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void AddCategory(const Project& project, const Category& category, const QList<TemplateEntry>& templates);
+    QSet<QString> Expanded() const;
     void Choose(const QTreeWidgetItem* entry);
 
     QTreeWidget* m_tree;

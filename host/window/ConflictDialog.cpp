@@ -1,5 +1,7 @@
 #include "host/window/ConflictDialog.h"
 
+#include "host/project/Names.h"
+
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QHeaderView>
@@ -26,10 +28,11 @@ enum Column
 
 QString ItemName(const QList<DataItem>& items, const QString& location)
 {
-    const auto item = std::ranges::find_if(items, [&](const DataItem& candidate) {
-        return candidate.location.compare(location, Qt::CaseInsensitive) == 0;
-    });
-    return item == items.end() ? location : item->name;
+    const auto item =
+        std::ranges::find_if(items, [&](const DataItem& candidate) { return SameName(candidate.location, location); });
+    if (item == items.end())
+        return location;
+    return item->unit.isEmpty() ? item->name : QStringLiteral("%1 (%2)").arg(item->name, item->unit);
 }
 
 QTableWidgetItem* Cell(const QString& text)
@@ -45,21 +48,23 @@ ConflictDialog::ConflictDialog(const QList<Conflict>& conflicts, const QList<Dat
     : QDialog(parent), m_conflicts(conflicts), m_table(new QTableWidget(int(conflicts.size()), kColumnCount, this))
 {
     setWindowTitle(tr("Values changed by someone else"));
-    auto* text =
-        new QLabel(tr("These values were changed since they were shown. Everything else has been saved."), this);
+    auto* text = new QLabel(tr("These values were changed since they were shown. Everything else has been saved. "
+                               "Cancel leaves yours unsaved in the schedule."),
+                            this);
     text->setWordWrap(true);
     Fill(items);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     auto* stored = buttons->addButton(tr("All theirs"), QDialogButtonBox::ActionRole);
     auto* own = buttons->addButton(tr("All mine"), QDialogButtonBox::ActionRole);
     connect(stored, &QPushButton::clicked, this, [this] { Choose(false); });
     connect(own, &QPushButton::clicked, this, [this] { Choose(true); });
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* column = new QVBoxLayout(this);
     column->addWidget(text);
     column->addWidget(m_table);
     column->addWidget(buttons);
-    resize(m_table->horizontalHeader()->length() + 4 * fontMetrics().height(), 18 * fontMetrics().height());
+    resize(80 * fontMetrics().averageCharWidth(), 18 * fontMetrics().height());
 }
 
 void ConflictDialog::Fill(const QList<DataItem>& items)
@@ -78,6 +83,8 @@ void ConflictDialog::Fill(const QList<DataItem>& items)
         m_table->setCellWidget(row, kChoice, choice);
     }
     m_table->resizeColumnsToContents();
+    for (const int column : {kItem, kStored, kOwn})
+        m_table->horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
 }
 
 void ConflictDialog::Choose(bool own)
@@ -90,7 +97,7 @@ QList<ValueEdit> ConflictDialog::Insisted() const
 {
     QList<ValueEdit> edits;
     for (int row = 0; row < m_conflicts.size(); ++row) {
-        if (result() != Accepted || qobject_cast<QComboBox*>(m_table->cellWidget(row, kChoice))->currentIndex() == 0)
+        if (qobject_cast<QComboBox*>(m_table->cellWidget(row, kChoice))->currentIndex() == 0)
             continue;
         ValueEdit edit = m_conflicts[row].edit;
         edit.version = m_conflicts[row].stored.version;

@@ -9,7 +9,8 @@ class QTableWidget;
 namespace schedules::host {
 
 /// Lists edits that were not stored because another value was stored since, with both values, and lets the user choose
-/// for each of them. At first each keeps the stored value, so that nothing is overwritten by a mere Enter.
+/// for each of them. At first each keeps the stored value, so that nothing is overwritten by a mere Enter. A user who
+/// cancels has not decided.
 class ConflictDialog : public QDialog
 {
     Q_OBJECT

@@ -12,7 +12,9 @@
 #include "host/window/MessageBar.h"
 
 #include <QCloseEvent>
+#include <QInputDialog>
 #include <QLabel>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QScreen>
 #include <QStackedWidget>
@@ -28,7 +30,7 @@ constexpr int kMessageLines = 9;
 
 QDockWidget* OptionsDock(QWidget* parent)
 {
-    auto* dock = new QDockWidget(ProjectWindow::tr("Template"), parent);
+    auto* dock = new QDockWidget(parent);
     dock->setObjectName(QStringLiteral("dockOptions"));
     dock->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetFloatable);
     dock->hide();
@@ -38,8 +40,10 @@ QDockWidget* OptionsDock(QWidget* parent)
 /// What is shown while there is no view.
 QLabel* Invitation(QWidget* parent)
 {
-    auto* label = new QLabel(ProjectWindow::tr("Choose a category at the left."), parent);
+    auto* label = new QLabel(parent);
+    label->setObjectName(QStringLiteral("lblInvitation"));
     label->setAlignment(Qt::AlignCenter);
+    label->setWordWrap(true);
     label->setForegroundRole(QPalette::PlaceholderText);
     return label;
 }
@@ -52,34 +56,18 @@ ProjectWindow::ProjectWindow(Session& session, const Answering& answering, Confl
       m_conflicts(std::move(conflicts)),
       m_bar(new MessageBar(this)),
       m_place(new QStackedWidget(this)),
+      m_invitation(Invitation(m_place)),
       m_categories(new CategoryDock(this)),
       m_optionsDock(OptionsDock(this)),
       m_messages(new MessageDock(this))
 {
     if (!m_conflicts)
         m_conflicts = [this](const QList<Conflict>& found) { return AskConflicts(found); };
-    auto* center = new QWidget(this);
-    auto* column = new QVBoxLayout(center);
-    column->setContentsMargins({});
-    column->addWidget(m_bar);
-    column->addWidget(m_place, 1);
-    m_place->addWidget(Invitation(m_place));
-    setCentralWidget(center);
-    addDockWidget(Qt::LeftDockWidgetArea, m_categories);
-    addDockWidget(Qt::RightDockWidgetArea, m_optionsDock);
-    addDockWidget(Qt::BottomDockWidgetArea, m_messages);
-    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
-    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-    BuildFileMenu();
-    BuildViewMenu();
-    BuildHelpMenu();
+    BuildDocks();
     statusBar();
-    setWindowTitle(tr("Equipment Schedules"));
-    connect(m_categories, &CategoryDock::CategoryChosen, this, &ProjectWindow::ChooseCategory);
-    connect(m_categories, &CategoryDock::TemplateChosen, this, &ProjectWindow::ChooseTemplate);
-    connect(m_bar, &MessageBar::OfferTaken, this, [this] { Guarded([this] { AdoptOrphans(); }); });
-    connect(&m_session.Router(), &HostRouter::Crossed, this, &ProjectWindow::OnCrossed);
+    Connect();
     Restore();
+    Retranslate();
 }
 
 ProjectWindow::~ProjectWindow()
@@ -87,6 +75,30 @@ ProjectWindow::~ProjectWindow()
     // The tools send their last messages while there is still somebody who answers.
     m_options.reset();
     m_view.reset();
+}
+
+void ProjectWindow::BuildDocks()
+{
+    auto* center = new QWidget(this);
+    auto* column = new QVBoxLayout(center);
+    column->setContentsMargins({});
+    column->addWidget(m_bar);
+    column->addWidget(m_place, 1);
+    m_place->addWidget(m_invitation);
+    setCentralWidget(center);
+    addDockWidget(Qt::LeftDockWidgetArea, m_categories);
+    addDockWidget(Qt::RightDockWidgetArea, m_optionsDock);
+    addDockWidget(Qt::BottomDockWidgetArea, m_messages);
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+}
+
+void ProjectWindow::Connect()
+{
+    connect(m_categories, &CategoryDock::CategoryChosen, this, &ProjectWindow::ChooseCategory);
+    connect(m_categories, &CategoryDock::TemplateChosen, this, &ProjectWindow::ChooseTemplate);
+    connect(m_bar, &MessageBar::OfferTaken, this, &ProjectWindow::AdoptOrphans);
+    connect(&m_session.Router(), &HostRouter::Crossed, this, &ProjectWindow::OnCrossed);
 }
 
 void ProjectWindow::Restore()
@@ -103,64 +115,76 @@ bool ProjectWindow::Open(const QString& address, const QString& language)
     if (!MayClose())
         return false;
     try {
-        Show(Project::Open(address), language);
-        return true;
+        auto project = OpenedProject(address);
+        if (project)
+            Show(std::move(project), language);
+        return m_open.project != nullptr;
     } catch (const HostError& error) {
         QMessageBox::warning(this, windowTitle(), error.Line());
         return false;
     }
 }
 
+/// Asks for the password of a server that does not let the user in without. Nothing when he gives none.
+std::unique_ptr<Project> ProjectWindow::OpenedProject(const QString& address)
+{
+    try {
+        return Project::Open(address);
+    } catch (const LoginRefused& error) {
+        bool given = false;
+        const QString password = QInputDialog::getText(this, windowTitle(), tr("%1\nPassword:").arg(error.Line()),
+                                                       QLineEdit::Password, {}, &given);
+        if (!given)
+            throw;
+        return Project::Open(WithPassword(address, password));
+    }
+}
+
+/// What can fail comes first, so that one project is open at any time: the former one or this.
 void ProjectWindow::Show(std::unique_ptr<Project> project, const QString& language)
 {
     auto folder = std::make_unique<TemplateFolder>(*project, OwnTemplateFolder(*project));
     folder->LayOut();
+    const QString own = project->Language();
+    const QList<Category> categories = project->Categories();
     EndOptions();
     EndView();
     m_open.answers.reset(); // it takes its answers back before the next one gives its own
-    auto answers = std::make_unique<ProjectAnswers>(m_session.Router(), *project, *folder, m_conflicts);
-    m_language = language.isEmpty() ? project->Language() : language;
+    m_open.answers = std::make_unique<ProjectAnswers>(m_session.Router(), *project, *folder, m_conflicts);
+    m_open.folder = std::move(folder);
+    m_open.project = std::move(project);
+    ConnectAnswers(*m_open.answers);
+    m_language = language.isEmpty() ? own : language;
     m_session.UseLanguage(m_language);
-    m_open = {std::move(project), std::move(folder), std::move(answers)};
-    Connect(*m_open.answers);
     m_settings.AddRecentProject(m_open.project->Address().Text());
-    ListRecent();
-    CheckChoices();
-    setWindowTitle(tr("%1 - Equipment Schedules").arg(m_open.project->Address().Name()));
-    const QList<Category> categories = m_open.project->Categories();
-    ListCategories();
-    OfferOrphans();
+    Guarded([this] { ListCategories(); });
+    Guarded([this] { OfferOrphans(); });
+    Retranslate();
     if (!categories.isEmpty())
         ChooseCategory(categories.first().name);
 }
 
-void ProjectWindow::Connect(const ProjectAnswers& answers)
+void ProjectWindow::ConnectAnswers(const ProjectAnswers& answers)
 {
-    connect(&answers, &ProjectAnswers::TemplateChosen, this, &ProjectWindow::UseTemplate);
-    connect(&answers, &ProjectAnswers::TemplatesChanged, this, &ProjectWindow::ListCategories);
+    connect(&answers, &ProjectAnswers::TemplateChosen, this,
+            [this](const QString& xml) { Guarded([&] { UseTemplate(xml); }); });
+    connect(&answers, &ProjectAnswers::TemplatesChanged, this, [this] { Guarded([this] { ListCategories(); }); });
     connect(&answers, &ProjectAnswers::TemplateKept, this, [this](const QString& name, const QString& keptAs) {
-        m_bar->Tell(tr("Someone else has changed the template %1 as well. His is kept as %2.").arg(name, keptAs));
+        m_bar->Tell(tr("Someone else has changed the template %1 as well. Theirs is kept as %2.").arg(name, keptAs));
     });
-    connect(&answers, &ProjectAnswers::OptionsWanted, this, &ProjectWindow::ShowOptions);
+    connect(&answers, &ProjectAnswers::OptionsWanted, this, [this] { Guarded([this] { ShowOptions(); }); });
     connect(&answers, &ProjectAnswers::OptionsDone, this, [this] { Later([this] { EndOptions(); }); });
-    connect(&answers, &ProjectAnswers::ScheduleDone, this, [this] {
-        m_viewDone = true;
-        Later([this] { m_schedule ? ShowSelector() : EndView(); });
-    });
+    connect(&answers, &ProjectAnswers::ScheduleDone, this, &ProjectWindow::LeaveView);
     connect(&answers, &ProjectAnswers::TagsPicked, this,
-            [this](const QStringList& tags) { Later([this, tags] { ShowSchedule(tags); }); });
+            [this](const QStringList& tags) { Later([this, tags] { ShowPicked(tags); }); });
     connect(&answers, &ProjectAnswers::TagsToPrint, this, [this](const QStringList& tags) {
         Later([this, tags] {
-            ShowSchedule(tags);
+            ShowPicked(tags);
             m_view->Print();
         });
     });
-    connect(&answers, &ProjectAnswers::Saved, this, &ProjectWindow::FreshenView);
-    connect(&answers, &ProjectAnswers::HelpWanted, this, [this](const QString& context) {
-        if (!m_help)
-            m_help = new HelpWindow(this);
-        m_help->Open(context);
-    });
+    connect(&answers, &ProjectAnswers::Saved, this, &ProjectWindow::Freshen);
+    connect(&answers, &ProjectAnswers::HelpWanted, this, &ProjectWindow::ShowHelp);
     connect(&answers, &ProjectAnswers::ErrorTold, this, [this](const QString& error) { m_bar->Tell(error); });
 }
 
@@ -184,11 +208,14 @@ void ProjectWindow::OfferOrphans()
                     tr("Add them"));
 }
 
+/// What is no template is told, and does not keep the others out.
 void ProjectWindow::AdoptOrphans()
 {
-    for (const QString& orphan : m_open.folder->Orphans())
-        m_open.folder->Adopt(orphan);
-    ListCategories();
+    Guarded([this] {
+        for (const QString& orphan : m_open.folder->Orphans())
+            Guarded([&] { m_open.folder->Adopt(orphan); });
+        ListCategories();
+    });
 }
 
 void ProjectWindow::Later(std::function<void()> step)
@@ -203,19 +230,22 @@ void ProjectWindow::Guarded(const std::function<void()>& step)
         step();
     } catch (const HostError& error) {
         m_bar->Tell(error.Line());
+    } catch (const std::exception& error) {
+        m_bar->Tell(QString::fromUtf8(error.what()));
     }
 }
 
-QList<ValueEdit> ProjectWindow::AskConflicts(const QList<Conflict>& conflicts)
+std::optional<QList<ValueEdit>> ProjectWindow::AskConflicts(const QList<Conflict>& conflicts)
 {
-    ConflictDialog dialog(conflicts, m_open.project->Items(), this);
-    dialog.exec();
+    ConflictDialog dialog(conflicts, m_schedule ? m_schedule->content.items : QList<DataItem>(), this);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
     return dialog.Insisted();
 }
 
 bool ProjectWindow::MayReplaceView()
 {
-    return !m_view || m_viewDone || MayReplace(*m_view, *this, tr("the schedule"), m_answering.unsaved);
+    return !m_view || m_viewDone || MayReplace(*m_view, *this, tr("The schedule"), m_answering.unsaved);
 }
 
 /// Whether the edits of the open template are saved now, or the user does not want them.
@@ -234,9 +264,10 @@ bool ProjectWindow::MayDropTemplate()
     }
 }
 
+/// The template first: applying it may build the schedule anew, which asks about its values.
 bool ProjectWindow::MayClose()
 {
-    return MayReplaceView() && MayDropTemplate();
+    return MayDropTemplate() && MayReplaceView();
 }
 
 void ProjectWindow::closeEvent(QCloseEvent* event)
@@ -244,6 +275,27 @@ void ProjectWindow::closeEvent(QCloseEvent* event)
     event->setAccepted(MayClose());
     if (event->isAccepted())
         m_settings.SetWindow(saveGeometry(), saveState());
+}
+
+/// Everything that was said in another language. What a tool says is said anew by a new one.
+void ProjectWindow::Retranslate()
+{
+    BuildMenus();
+    m_optionsDock->setWindowTitle(tr("Template"));
+    const QString project = m_open.project ? m_open.project->Address().Name() : QString();
+    setWindowTitle(project.isEmpty() ? tr("Equipment Schedules") : tr("%1 - Equipment Schedules").arg(project));
+    m_invitation->setText(m_open.project && m_categories->IsEmpty()
+                              ? tr("This project has no categories yet. Import a table of them.")
+                              : tr("Choose a category at the left."));
+}
+
+void ProjectWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        Retranslate();
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        Later([this] { FollowOthers(); });
 }
 
 } // namespace schedules::host

@@ -13,6 +13,7 @@
 #include <optional>
 
 class QActionGroup;
+class QLabel;
 class QMenu;
 class QStackedWidget;
 
@@ -57,6 +58,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     /// What belongs to the project that is open, in the order in which it is built.
@@ -67,13 +69,17 @@ private:
         std::unique_ptr<ProjectAnswers> answers;
     };
 
-    /// What the schedule view shows.
+    /// What the schedule view shows, as it was read.
     struct ShownSchedule
     {
+        QString category;
         QStringList tags;
         TemplateLayout layout;
+        ScheduleContent content;
     };
 
+    void BuildDocks();
+    void BuildMenus();
     void BuildFileMenu();
     void BuildViewMenu();
     void BuildHelpMenu();
@@ -82,44 +88,51 @@ private:
     void CheckChoices();
     void ListRecent();
     void Restore();
+    void Retranslate();
 
     void AskNew();
     void AskOpen();
     void AskServer();
     void AskImport();
+    void ShowHelp(const QString& context);
     void ShowAbout();
     void ChooseLanguage(const QString& language);
     void ChoosePalette(const QString& palette);
     void ShowIn(Palette palette);
 
-    void Connect(const ProjectAnswers& answers);
+    void Connect();
+    void ConnectAnswers(const ProjectAnswers& answers);
     void ListCategories();
     void OfferOrphans();
     void AdoptOrphans();
 
     void ChooseCategory(const QString& category);
     void ChooseTemplate(const QString& category, const QString& fileName);
-    void ShowSelector();
-    void ShowSchedule(const QStringList& tags);
+    void ShowSelector(const QString& category);
+    void ShowSchedule(const QString& category, const QStringList& tags, const TemplateLayout& layout);
+    void ShowPicked(const QStringList& tags);
     void UseTemplate(const QString& xml);
-    void TakeView(std::unique_ptr<ScheduleTool> view);
+    void TakeView(host::View kind, const QString& category, const QString& xml);
     void EndView();
+    void LeaveView();
     void Refresh();
-    void FreshenView(int stored, bool differs);
+    void Reload();
+    void Freshen(const QList<ValueEdit>& edited, int stored, bool differs);
+    void FollowOthers();
 
     void ShowOptions();
     void EndOptions();
     bool MayDropTemplate();
-
     bool MayReplaceView();
     bool MayClose();
-    QString ScheduleText() const;
-    QList<ValueEdit> AskConflicts(const QList<Conflict>& conflicts);
+
+    std::unique_ptr<Project> OpenedProject(const QString& address);
+    std::optional<QList<ValueEdit>> AskConflicts(const QList<Conflict>& conflicts);
     void OnCrossed(const Crossing& crossing);
 
-    /// Does something later, when the message that asked for it is over. What fails is told.
-    void Later(std::function<void()> step);
+    /// Does something, or later, when the message that asked for it is over. What fails is told in the bar.
     void Guarded(const std::function<void()>& step);
+    void Later(std::function<void()> step);
 
     Session& m_session;
     Answering m_answering;
@@ -132,6 +145,7 @@ private:
     QActionGroup* m_palettes = nullptr;
     MessageBar* m_bar;
     QStackedWidget* m_place;
+    QLabel* m_invitation;
     CategoryDock* m_categories;
     QDockWidget* m_optionsDock;
     MessageDock* m_messages;

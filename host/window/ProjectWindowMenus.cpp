@@ -23,6 +23,10 @@ namespace schedules::host {
 namespace {
 
 const QStringList kLanguageCodes{"en", "de", "fr"};
+
+/// Each in its own language, so that whoever is lost in another one finds back.
+const QStringList kLanguageNames{"English", "Deutsch", "Français"};
+
 const QStringList kPaletteNames{"desktop", "light", "dark"};
 const QString kProjectEnd = QStringLiteral(".schedules");
 
@@ -38,6 +42,16 @@ Palette PaletteNamed(const QString& name)
 }
 
 } // namespace
+
+/// Anew each time, which tells them in the language of now.
+void ProjectWindow::BuildMenus()
+{
+    qDeleteAll(menuBar()->findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly));
+    BuildFileMenu();
+    BuildViewMenu();
+    BuildHelpMenu();
+    CheckChoices();
+}
 
 void ProjectWindow::BuildFileMenu()
 {
@@ -57,16 +71,20 @@ void ProjectWindow::BuildFileMenu()
 void ProjectWindow::ListRecent()
 {
     m_recent->clear();
-    for (const QString& address : m_settings.RecentProjects())
-        m_recent->addAction(address, this, [this, address] { Open(address); });
+    for (const QString& address : m_settings.RecentProjects()) {
+        const QAction* action = m_recent->addAction(QString(address).replace(u'&', QStringLiteral("&&")));
+        // Later, since opening makes the menus anew.
+        connect(
+            action, &QAction::triggered, this, [this, address] { Open(address); }, Qt::QueuedConnection);
+    }
     m_recent->setEnabled(!m_recent->isEmpty());
 }
 
 void ProjectWindow::BuildViewMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&View"));
-    BuildChoices(*menu->addMenu(tr("&Language")), {tr("English"), tr("German"), tr("French")}, kLanguageCodes,
-                 m_languages, &ProjectWindow::ChooseLanguage);
+    BuildChoices(*menu->addMenu(tr("&Language")), kLanguageNames, kLanguageCodes, m_languages,
+                 &ProjectWindow::ChooseLanguage);
     BuildChoices(*menu->addMenu(tr("&Colours")), {tr("Desktop"), tr("Light"), tr("Dark")}, kPaletteNames, m_palettes,
                  &ProjectWindow::ChoosePalette);
     menu->addSeparator();
@@ -77,37 +95,38 @@ void ProjectWindow::BuildViewMenu()
 void ProjectWindow::BuildChoices(QMenu& menu, const QStringList& names, const QStringList& values, QActionGroup*& group,
                                  void (ProjectWindow::*chosen)(const QString&))
 {
-    group = new QActionGroup(this);
+    group = new QActionGroup(&menu);
     for (int index = 0; index < names.size(); ++index) {
         QAction* action = group->addAction(menu.addAction(names[index]));
         action->setCheckable(true);
         action->setData(values[index]);
-        connect(action, &QAction::triggered, this,
-                [this, chosen, action] { (this->*chosen)(action->data().toString()); });
+        connect(action, &QAction::triggered, this, [this, chosen, value = values[index]] { (this->*chosen)(value); });
     }
 }
 
 void ProjectWindow::BuildHelpMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&Help"));
-    menu->addAction(tr("&Contents"), QKeySequence::HelpContents, this, [this] {
-        if (!m_help)
-            m_help = new HelpWindow(this);
-        m_help->Open({});
-    });
+    menu->addAction(tr("&Contents"), QKeySequence::HelpContents, this, [this] { ShowHelp({}); });
     menu->addAction(tr("&About"), this, &ProjectWindow::ShowAbout);
+}
+
+void ProjectWindow::ShowHelp(const QString& context)
+{
+    if (!m_help)
+        m_help = new HelpWindow(this);
+    m_help->Open(context);
 }
 
 void ProjectWindow::AskNew()
 {
-    const QString chosen = QFileDialog::getSaveFileName(this, tr("New project"), {}, ProjectFilter());
+    const QString chosen = QFileDialog::getSaveFileName(this, tr("New project"), {}, ProjectFilter(), nullptr,
+                                                        QFileDialog::DontConfirmOverwrite); // none is overwritten
     if (chosen.isEmpty() || !MayClose())
         return;
     const QString file = chosen.endsWith(kProjectEnd, Qt::CaseInsensitive) ? chosen : chosen + kProjectEnd;
     try {
-        auto project = Project::Create(file);
-        FillWithStandards(*project);
-        Show(std::move(project));
+        Show(NewProject(file, FillWithStandards));
     } catch (const HostError& error) {
         QMessageBox::warning(this, windowTitle(), error.Line());
     }
@@ -138,7 +157,9 @@ void ProjectWindow::AskImport()
         return;
     try {
         const ImportResult result = ImportTable(*m_open.project, file);
-        Refresh();
+        Reload();
+        ListCategories();
+        Retranslate();
         statusBar()->showMessage(tr("Imported %1 tags and %2 values").arg(result.tags).arg(result.values));
     } catch (const HostError& error) {
         QMessageBox::warning(this, windowTitle(), error.Line());
@@ -157,18 +178,20 @@ void ProjectWindow::ShowAbout()
 /// The tools are made anew, since they set their captions when they start.
 void ProjectWindow::ChooseLanguage(const QString& language)
 {
-    if (!m_open.project || !MayClose())
-        return CheckChoices();
     Guarded([&] {
+        if (!m_open.project || !MayClose())
+            return;
         m_open.project->SetLanguage(language);
-        m_language = language;
-        const bool editing = m_options != nullptr;
+        const auto schedule = m_schedule;
+        const bool hadView = m_view != nullptr;
         EndOptions();
         EndView();
+        m_language = language;
         m_session.UseLanguage(language);
-        m_schedule ? ShowSchedule(QStringList(m_schedule->tags)) : ShowSelector();
-        if (editing)
-            ShowOptions();
+        if (schedule)
+            ShowSchedule(schedule->category, schedule->tags, schedule->layout);
+        else if (hadView)
+            ShowSelector(QString(m_open.answers->Category()));
     });
     CheckChoices();
 }

@@ -226,7 +226,7 @@ TEST(AskAboutUnsaved, AsksInABoxWithSaveDiscardAndCancel)
         QTimer::singleShot(0, [button] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             ASSERT_NE(box, nullptr);
-            EXPECT_EQ(box->text(), "There are edited values of pumps.xml that are not saved.");
+            EXPECT_EQ(box->text(), "pumps.xml has edits that are not saved.");
             EXPECT_EQ(box->standardButtons(), QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
             box->button(button)->click();
         });

@@ -29,7 +29,7 @@ struct ProjectAnswersTest : SmallProject
                          [this](const QStringList& tags) { told << "picked " + tags.join(u','); });
         QObject::connect(&answers, &ProjectAnswers::TagsToPrint,
                          [this](const QStringList& tags) { told << "print " + tags.join(u','); });
-        QObject::connect(&answers, &ProjectAnswers::Saved, [this](int stored, bool differs) {
+        QObject::connect(&answers, &ProjectAnswers::Saved, [this](const QList<ValueEdit>&, int stored, bool differs) {
             told << QStringLiteral("saved %1%2").arg(stored).arg(differs ? ", differs" : "");
         });
         QObject::connect(&answers, &ProjectAnswers::HelpWanted,
@@ -70,11 +70,14 @@ struct ProjectAnswersTest : SmallProject
 
     QStringList told;
     QList<Conflict> conflicts; ///< that were asked about last
+    bool decides = true;
     std::function<bool()> insists = [] { return false; };
     HostRouter router;
     TemplateFolder folder{*project, Path(QStringLiteral("templates"))};
     ProjectAnswers answers{router, *project, folder, [this](const QList<Conflict>& found) {
                                conflicts = found;
+                               if (!decides)
+                                   return std::optional<QList<ValueEdit>>();
                                QList<ValueEdit> insisted;
                                for (const Conflict& conflict : found) {
                                    ValueEdit edit = conflict.edit;
@@ -82,7 +85,7 @@ struct ProjectAnswersTest : SmallProject
                                    if (insists())
                                        insisted << edit;
                                }
-                               return insisted;
+                               return std::optional(insisted);
                            }};
 };
 
@@ -278,6 +281,15 @@ TEST_F(ProjectAnswersTest, AnInsistingUserHasHisValueStored)
     Sent("UpdateTagScheduleData", {"", Edited("12.5", 1)});
     EXPECT_EQ(Stored("P-1", kFlow), "12.5 v3");
     EXPECT_EQ(told, QStringList{"saved 1"});
+}
+
+TEST_F(ProjectAnswersTest, AnUndecidedUserMakesTheSaveFailForTheseValuesAlone)
+{
+    StoredElsewhere("P-1", kFlow, "99");
+    decides = false;
+    EXPECT_THROW(Sent("UpdateTagScheduleData", {"", Edited("12.5", 1)}), HostError);
+    EXPECT_EQ(Stored("P-1", kFlow), "99 v2");
+    EXPECT_EQ(told, QStringList());
 }
 
 TEST_F(ProjectAnswersTest, AValueStoredWhileTheUserDecidesIsAskedAboutAgain)

@@ -102,10 +102,27 @@ TEST_P(DatabaseOf, AWriterThatWaitsTooLongIsToldThatItIsLocked)
     EXPECT_EQ(project->Language(), "en");
 }
 
-TEST_P(DatabaseOf, LockedByAnotherProgramDoesNotOpen)
+TEST_P(DatabaseOf, OpensAndIsReadWhileAnotherProgramWrites)
 {
     const Transaction other(*database, Transaction::Purpose::Writing);
-    EXPECT_EQ(Failure([&] { Opened(); }), Address().toStdString() + " is locked by another program; try again");
+    EXPECT_EQ(Opened()->Language(), "en");
+}
+
+TEST(DatabaseFile, HeldByAnotherProgramDoesNotOpen)
+{
+    QTemporaryDir folder;
+    const QString file = folder.filePath("plant.schedules");
+    Project::Create(file);
+    {
+        auto holder = QSqlDatabase::addDatabase("QSQLITE", "holder");
+        holder.setDatabaseName(file);
+        ASSERT_TRUE(holder.open());
+        for (const char* statement : {"PRAGMA locking_mode = EXCLUSIVE", "BEGIN EXCLUSIVE"})
+            ASSERT_TRUE(QSqlQuery(holder).exec(QLatin1String(statement)));
+        EXPECT_EQ(Failure([&] { Project::Open(file); }),
+                  file.toStdString() + " is locked by another program; try again");
+    }
+    QSqlDatabase::removeDatabase("holder");
 }
 
 } // namespace schedules::host::testing

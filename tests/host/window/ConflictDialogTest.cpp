@@ -48,7 +48,7 @@ struct ConflictDialogTest : ::testing::Test
 
 TEST_F(ConflictDialogTest, ListsBothValuesAndKeepsTheirsAtFirst)
 {
-    EXPECT_EQ(Row(0), "P-1 Design flow 99 12.5 Theirs");
+    EXPECT_EQ(Row(0), "P-1 Design flow (m³/h) 99 12.5 Theirs");
     EXPECT_EQ(Row(1), "P-2 PUMPS/Design/Head 51 50 Theirs");
     dialog.accept();
     EXPECT_EQ(dialog.Insisted(), QList<ValueEdit>());
@@ -64,18 +64,17 @@ TEST_F(ConflictDialogTest, WhatTheUserInsistsOnReplacesWhatIsStoredNow)
 TEST_F(ConflictDialogTest, AllAreChosenAtOnce)
 {
     Press("All mine");
-    EXPECT_EQ(Row(0), "P-1 Design flow 99 12.5 Mine");
+    EXPECT_EQ(Row(0), "P-1 Design flow (m³/h) 99 12.5 Mine");
     dialog.accept();
     EXPECT_EQ(dialog.Insisted().size(), 2);
     Press("All theirs");
     EXPECT_EQ(dialog.Insisted().size(), 0);
 }
 
-TEST_F(ConflictDialogTest, LeavingItKeepsAllTheirs)
+TEST_F(ConflictDialogTest, CancelLeavesTheDecisionOpen)
 {
-    Press("All mine");
-    dialog.reject();
-    EXPECT_EQ(dialog.Insisted(), QList<ValueEdit>());
+    Press("Cancel");
+    EXPECT_EQ(dialog.result(), QDialog::Rejected);
 }
 
 } // namespace schedules::host::testing

@@ -65,12 +65,31 @@ TEST_F(ProjectWindowOptions, OkAndCancelCloseTheEditorAndUndoNothing)
     EXPECT_EQ(Shown(), " | P-1\nFlow | 12");
 }
 
-TEST_F(ProjectWindowOptions, CustomizeAgainKeepsTheEditorThatIsOpen)
+TEST_F(ProjectWindowOptions, CustomizeAgainOpensANewEditorUnlessThereAreEdits)
 {
     Customize();
     Toggle("Head");
+    unsaved = {UnsavedValues::Keep};
     Trigger("btnCustomize");
+    EXPECT_EQ(asked, QStringList{"Both.xml"});
     EXPECT_TRUE(window->Options()->HasUnsavedEdits());
+    unsaved = {UnsavedValues::Discard};
+    Trigger("btnCustomize");
+    EXPECT_FALSE(window->Options()->HasUnsavedEdits());
+}
+
+TEST_F(ProjectWindowOptions, AnotherCategoryClosesTheEditor)
+{
+    Customize();
+    Toggle("Head");
+    unsaved = {UnsavedValues::Keep};
+    Choose(1);
+    EXPECT_NE(window->Options(), nullptr);
+    EXPECT_FALSE(ShowsSelector());
+    unsaved = {UnsavedValues::Discard};
+    Choose(1);
+    EXPECT_EQ(window->Options(), nullptr);
+    EXPECT_TRUE(ShowsSelector());
 }
 
 TEST_F(ProjectWindowOptions, ApplyAsksFirstWhenTheScheduleHasUnsavedValues)
@@ -80,7 +99,7 @@ TEST_F(ProjectWindowOptions, ApplyAsksFirstWhenTheScheduleHasUnsavedValues)
     Toggle("Head");
     unsaved = {UnsavedValues::Keep};
     PressInEditor("cmdApply");
-    EXPECT_EQ(asked, QStringList{"the schedule"});
+    EXPECT_EQ(asked, QStringList{"The schedule"});
     EXPECT_TRUE(View().Dirty());
     EXPECT_EQ(TextAt(1, 1), "12.5");
 
@@ -114,13 +133,17 @@ TEST_F(ProjectWindowOptions, ADeletedTemplateLeavesTheProject)
     EXPECT_EQ(Categories(), "Pumps (2)\n  Both *\nFans (1)");
 }
 
-TEST_F(ProjectWindowOptions, TheLanguageOfAnOpenEditorIsSwitchedAsWell)
+TEST_F(ProjectWindowOptions, AnotherLanguageAsksAndClosesTheEditor)
 {
     Customize();
-    Menu(QStringLiteral("French"))->trigger();
-    ASSERT_NE(window->Options(), nullptr);
-    const auto* apply = window->Options()->Widget().findChild<QAbstractButton*>(QStringLiteral("cmdApply"));
-    EXPECT_EQ(apply->text().remove(u'&'), "Appliquer");
+    Toggle("Head");
+    unsaved = {UnsavedValues::Keep, UnsavedValues::Discard};
+    Menu(QStringLiteral("Français"))->trigger();
+    QCoreApplication::processEvents();
+    EXPECT_NE(window->Options(), nullptr);
+    Menu(QStringLiteral("Français"))->trigger();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window->Options(), nullptr);
 }
 
 TEST_F(ProjectWindowOptions, ClosingAsksAboutValuesAndTemplate)
@@ -131,11 +154,11 @@ TEST_F(ProjectWindowOptions, ClosingAsksAboutValuesAndTemplate)
     unsaved = {UnsavedValues::Keep};
     EXPECT_FALSE(window->close());
     unsaved = {UnsavedValues::Discard, UnsavedValues::Keep};
-    EXPECT_FALSE(window->close());
+    EXPECT_FALSE(window->close()) << "the values";
     unsaved = {UnsavedValues::Save, UnsavedValues::Save};
     asked.clear();
     EXPECT_TRUE(window->close());
-    EXPECT_EQ(asked, (QStringList{"the schedule", "Both.xml"}));
+    EXPECT_EQ(asked, (QStringList{"Both.xml", "The schedule"}));
     EXPECT_EQ(Stored("P-1", kFlow), "12.5 v2");
     EXPECT_TRUE(project->TemplateText("Both.xml").contains("ShowThisItem=\"0\""));
 }

@@ -68,7 +68,7 @@ TEST_F(ProjectWindowTest, SaveStoresTheEditedValuesAndSaysHowMany)
     PressSave();
     EXPECT_EQ(Stored("P-1", kFlow), "12.5 v2");
     EXPECT_EQ(Stored("P-2", kHead), "50 v2");
-    EXPECT_EQ(Status(), "Saved 2 values");
+    EXPECT_EQ(Status(), "2 values saved");
     EXPECT_FALSE(View().Dirty());
 }
 
@@ -80,7 +80,7 @@ TEST_F(ProjectWindowTest, WhatIsEditedAfterSavingIsStoredAsWell)
     Edit(1, 1, "12.6");
     PressSave();
     EXPECT_EQ(Stored("P-1", kFlow), "12.6 v3");
-    EXPECT_EQ(Status(), "Saved 1 value");
+    EXPECT_EQ(Status(), "1 value saved");
     EXPECT_EQ(conflicts.size(), 0);
 }
 
@@ -109,6 +109,82 @@ TEST_F(ProjectWindowTest, AUserWhoInsistsHasHisValueStored)
     PressSave();
     EXPECT_EQ(Stored("P-1", kFlow), "12.5 v3");
     EXPECT_EQ(TextAt(1, 1), "12.5");
+}
+
+TEST_F(ProjectWindowTest, AUserWhoCannotDecideKeepsHisValuesUnsaved)
+{
+    Pick({"P-1"});
+    StoredElsewhere("P-1", kFlow, "99");
+    Edit(1, 1, "12.5");
+    Edit(1, 2, "50");
+    decides = false;
+    Trigger("btnSaveTag");
+    EXPECT_EQ(Stored("P-1", kFlow), "99 v2");
+    EXPECT_EQ(Stored("P-1", kHead), "50 v2") << "the others are saved";
+    EXPECT_EQ(TextAt(1, 1), "12.5");
+    EXPECT_TRUE(View().Dirty());
+    EXPECT_EQ(Told(), "1 value changed by someone else was not saved.");
+
+    decides = insists = true;
+    Trigger("btnSaveTag");
+    EXPECT_EQ(Stored("P-1", kFlow), "12.5 v3");
+    EXPECT_FALSE(View().Dirty());
+    EXPECT_EQ(Told(), "");
+}
+
+/// A save brings the versions of all values; whoever edits on top of them must have seen them.
+TEST_F(ProjectWindowTest, ASaveShowsWhatOthersHaveStoredInFurtherCells)
+{
+    Pick({"P-1", "P-2"});
+    StoredElsewhere("P-2", kHead, "77");
+    Edit(1, 1, "12.5");
+    PressSave();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(TextAt(2, 2), "77");
+    EXPECT_EQ(Told(), "1 value was changed by someone else and is shown now.");
+    EXPECT_EQ(conflicts.size(), 0);
+}
+
+TEST_F(ProjectWindowTest, ComingBackToTheWindowShowsWhatOthersHaveStored)
+{
+    Pick({"P-1"});
+    QWidget other;
+    other.show();
+    QApplication::setActiveWindow(&other);
+    QCoreApplication::processEvents();
+    StoredElsewhere("P-1", kFlow, "99");
+    QApplication::setActiveWindow(window.get());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(TextAt(1, 1), "99");
+    EXPECT_EQ(Told(), "1 value was changed by someone else and is shown now.");
+}
+
+TEST_F(ProjectWindowTest, ComingBackToTheWindowLeavesUnsavedValuesAlone)
+{
+    Pick({"P-1"});
+    Edit(1, 2, "50");
+    StoredElsewhere("P-1", kFlow, "99");
+    QApplication::setActiveWindow(nullptr);
+    QCoreApplication::processEvents();
+    QApplication::setActiveWindow(window.get());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(TextAt(1, 1), "12");
+    EXPECT_EQ(TextAt(1, 2), "50");
+}
+
+TEST_F(ProjectWindowTest, ACategoryThatCannotBeShownLeavesTheFormerOne)
+{
+    Pick({"P-1"});
+    project->MergeTemplates(
+        {}, {{.name = "Broken", .fileName = "Broken.xml", .category = "FANS", .defaultForCategory = true}},
+        {{"Broken.xml", "<Template"}});
+    Choose(1);
+    EXPECT_NE(Told(), "");
+    EXPECT_FALSE(ShowsSelector());
+    Edit(1, 1, "12.5");
+    PressSave();
+    EXPECT_EQ(Stored("P-1", kFlow), "12.5 v2");
+    EXPECT_FALSE(View().Dirty());
 }
 
 TEST_F(ProjectWindowTest, RefreshShowsWhatOthersHaveStored)
@@ -204,14 +280,17 @@ TEST_F(ProjectWindowTest, UnsavedValuesAreAskedAboutBeforeSomethingElseIsShown)
 TEST_F(ProjectWindowTest, TheLanguageIsSwitchedAtRunTimeAndRemembered)
 {
     Pick({"P-1"});
-    Menu(QStringLiteral("German"))->trigger();
+    Menu(QStringLiteral("Deutsch"))->trigger();
+    QCoreApplication::processEvents();
     EXPECT_EQ(Shown(), " | P-1\nFlow | 12\nHead | 48");
     auto* close = View().Widget().findChild<QPushButton*>(QStringLiteral("cmdCancel"));
     EXPECT_EQ(close->text().remove(u'&'), "Schließen");
     EXPECT_EQ(project->Language(), "de");
     Start();
-    EXPECT_TRUE(Menu(QStringLiteral("German"))->isChecked());
+    EXPECT_EQ(window->windowTitle(), "small.schedules - Anlagenlisten");
+    EXPECT_TRUE(Menu(QStringLiteral("Deutsch"))->isChecked());
     Menu(QStringLiteral("English"))->trigger();
+    QCoreApplication::processEvents();
     EXPECT_EQ(project->Language(), "en");
 }
 

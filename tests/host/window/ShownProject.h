@@ -21,6 +21,7 @@
 #include <QTreeWidget>
 
 #include <deque>
+#include <optional>
 
 namespace schedules::host::testing {
 
@@ -158,9 +159,11 @@ protected:
         return answer;
     }
 
-    QList<ValueEdit> Decided(const QList<Conflict>& found)
+    std::optional<QList<ValueEdit>> Decided(const QList<Conflict>& found)
     {
         conflicts = found;
+        if (!decides)
+            return std::nullopt;
         QList<ValueEdit> edits;
         for (const Conflict& conflict : found) {
             if (insists)
@@ -180,6 +183,7 @@ protected:
     std::deque<UnsavedValues> unsaved; ///< the answers to come
     QStringList asked;
     QList<Conflict> conflicts;
+    bool decides = true; ///< in conflicts
     bool insists = false;
     Session session{English()};
     std::unique_ptr<ProjectWindow> window;
