@@ -27,4 +27,11 @@ public:
     using HostError::HostError;
 };
 
+/// Somebody else has stored another text of a template since it was looked at.
+class TextsChanged : public HostError
+{
+public:
+    using HostError::HostError;
+};
+
 } // namespace schedules::host

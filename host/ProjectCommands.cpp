@@ -3,6 +3,7 @@
 #include "host/HostError.h"
 #include "host/Json.h"
 #include "host/answers/ProjectSchedule.h"
+#include "host/import/Headings.h"
 #include "host/import/Import.h"
 #include "host/import/SampleProject.h"
 #include "host/project/Names.h"
@@ -205,12 +206,24 @@ int RunGet(const CommandLine& commandLine)
     return kDone;
 }
 
+/// What is stored for a text: a check box knows 1 and 0 alone.
+QString Storable(const DataItem& item, const QString& text)
+{
+    if (item.dataType != QLatin1String("CHECKBOX"))
+        return text;
+    const auto flag = FlagIn(text);
+    if (!flag)
+        throw HostError(QStringLiteral("%1 is a check box, which takes 1 or 0, not '%2'").arg(item.location, text));
+    return *flag ? QStringLiteral("1") : QStringLiteral("0");
+}
+
 int RunSet(const CommandLine& commandLine)
 {
     const auto project = Project::Open(commandLine.files[0]);
     const Tag tag = TagOf(*project, commandLine.files[1]);
     const DataItem item = ItemOf(*project, tag, commandLine.files[2]);
-    return StoreValue(*project, {tag.name, item.location, commandLine.files[3], ValueOf(*project, tag, item).version});
+    return StoreValue(*project, {tag.name, item.location, Storable(item, commandLine.files[3]),
+                                 ValueOf(*project, tag, item).version});
 }
 
 int StoreValue(Project& project, const ValueEdit& edit)

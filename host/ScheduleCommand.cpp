@@ -8,6 +8,8 @@
 #include "host/project/Names.h"
 #include "host/project/Project.h"
 
+#include <algorithm>
+
 namespace schedules::host {
 
 namespace {
@@ -22,12 +24,22 @@ TemplateLayout NamedLayout(const Project& project, const QString& name)
     throw HostError(QStringLiteral("there is no template %1").arg(name));
 }
 
+bool HoldsValues(const ScheduleContent& content)
+{
+    return std::ranges::any_of(content.values, [](const QList<StoredValue>& line) {
+        return std::ranges::any_of(line, [](const StoredValue& value) { return value.version > 0; });
+    });
+}
+
 QString TextOf(const Project& project, const ProjectOptions& options)
 {
     const QStringList tags = options.tags.isEmpty() ? TagNames(project, options.category) : options.tags;
     const TemplateLayout layout = options.templateFile.isEmpty() ? CurrentLayout(project, options.category)
                                                                  : NamedLayout(project, options.templateFile);
-    return ScheduleXml(layout, ContentOf(project, options.category, tags, layout));
+    const ScheduleContent content = ContentOf(project, options.category, tags, layout);
+    if (!HoldsValues(content))
+        PrintError(QStringLiteral("the template shows nothing that is known of these tags"));
+    return ScheduleXml(layout, content);
 }
 
 QStringList OutputNames(const RenderOptions& options)

@@ -271,10 +271,6 @@ Password:</source>
 Kennwort:</translation>
         </message>
         <message>
-            <source>Someone else has changed the template %1 as well. Theirs is kept as %2.</source>
-            <translation>Auch jemand anderes hat die Vorlage %1 geändert. Die fremde Fassung bleibt als %2 erhalten.</translation>
-        </message>
-        <message>
             <source>Templates that are in no list were found: %1</source>
             <translation>Vorlagen, die in keiner Liste stehen, wurden gefunden: %1</translation>
         </message>
@@ -443,6 +439,10 @@ Kennwort:</translation>
                 <numerusform>%n Wert wurde von anderen geändert und ist nun zu sehen.</numerusform>
                 <numerusform>%n Werte wurden von anderen geändert und sind nun zu sehen.</numerusform>
             </translation>
+        </message>
+        <message>
+            <source>Someone else has changed this template as well. Theirs is kept as %1.</source>
+            <translation>Auch jemand anderes hat diese Vorlage geändert. Die fremde Fassung bleibt als %1 erhalten.</translation>
         </message>
     </context>
 </TS>

@@ -271,10 +271,6 @@ Password:</source>
 Mot de passe :</translation>
         </message>
         <message>
-            <source>Someone else has changed the template %1 as well. Theirs is kept as %2.</source>
-            <translation>Quelqu’un d’autre a aussi modifié le modèle %1. Sa version est conservée sous %2.</translation>
-        </message>
-        <message>
             <source>Templates that are in no list were found: %1</source>
             <translation>Des modèles absents de toute liste ont été trouvés : %1</translation>
         </message>
@@ -443,6 +439,10 @@ Mot de passe :</translation>
                 <numerusform>%n valeur a été modifiée par d’autres et est affichée à présent.</numerusform>
                 <numerusform>%n valeurs ont été modifiées par d’autres et sont affichées à présent.</numerusform>
             </translation>
+        </message>
+        <message>
+            <source>Someone else has changed this template as well. Theirs is kept as %1.</source>
+            <translation>Quelqu’un d’autre a aussi modifié ce modèle. Sa version est conservée sous %1.</translation>
         </message>
     </context>
 </TS>

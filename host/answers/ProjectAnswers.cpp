@@ -49,6 +49,35 @@ QString FreeName(const QList<TemplateEntry>& entries, const QString& name)
     }
 }
 
+/// Of the same files, as the project has them; empty where it has none.
+FileTexts StoredTexts(const Project& project, const FileTexts& files)
+{
+    FileTexts stored;
+    for (const auto& [fileName, text] : files)
+        stored.append({fileName, project.TemplateText(fileName)});
+    return stored;
+}
+
+/// Where another client has stored a text of the same file since, his becomes a template of its own. Gives the names.
+QStringList KeepOthers(const FileTexts& others, const QList<TemplateEntry>& listed, QList<TemplateEntry>& wanted,
+                       FileTexts& texts)
+{
+    QStringList names;
+    for (const auto& [fileName, text] : others) {
+        const TemplateEntry* entry = EntryWithFile(wanted, fileName);
+        if (!entry)
+            continue;
+        TemplateEntry kept = *entry;
+        kept.name = FreeName(wanted + listed, entry->name);
+        kept.fileName = kept.name + QStringLiteral(".xml");
+        kept.defaultForCategory = false;
+        texts.append({kept.fileName, text});
+        wanted.append(kept);
+        names << kept.name;
+    }
+    return names;
+}
+
 } // namespace
 
 struct ProjectAnswers::Binding
@@ -130,30 +159,29 @@ QString ProjectAnswers::ReplaceList(const Message& message)
     QList<TemplateEntry> wanted = ReadTemplateList(ParameterText(message, QStringLiteral("ConfigXML")));
     const FileTexts changed = m_folder.Changed(FileNames(wanted));
     FillCategories(wanted, changed);
-    FileTexts texts = changed;
-    KeepOthers(changed, wanted, texts);
-    m_project.MergeTemplates(m_shown, wanted, texts);
+    while (!TryToStore(wanted, changed))
+        continue;
     m_folder.Remember(changed);
     m_shown = m_project.Templates();
     Q_EMIT TemplatesChanged();
     return {};
 }
 
-/// Where another client has stored a text of the same file since, his becomes a template of its own.
-void ProjectAnswers::KeepOthers(const FileTexts& changed, QList<TemplateEntry>& wanted, FileTexts& texts)
+/// False, and nothing is stored, when somebody else stores a text of one of these files at the same moment.
+bool ProjectAnswers::TryToStore(QList<TemplateEntry> wanted, const FileTexts& changed)
 {
-    for (const auto& [fileName, text] : m_folder.ChangedElsewhere(changed)) {
-        const TemplateEntry* entry = EntryWithFile(wanted, fileName);
-        if (!entry)
-            continue;
-        TemplateEntry kept = *entry;
-        kept.name = FreeName(wanted + m_project.Templates(), entry->name);
-        kept.fileName = kept.name + QStringLiteral(".xml");
-        kept.defaultForCategory = false;
-        Q_EMIT TemplateKept(entry->name, kept.name);
-        texts.append({kept.fileName, text});
-        wanted.append(kept);
+    const FileTexts stored = StoredTexts(m_project, changed);
+    FileTexts texts = changed;
+    const QStringList kept =
+        KeepOthers(m_folder.ChangedElsewhere(stored, changed), m_project.Templates(), wanted, texts);
+    try {
+        m_project.MergeTemplates(m_shown, wanted, texts, stored);
+    } catch (const TextsChanged&) {
+        return false;
     }
+    for (const QString& name : kept)
+        Q_EMIT TemplateKept(name);
+    return true;
 }
 
 QString ProjectAnswers::RemoveFromList(const Message& message)

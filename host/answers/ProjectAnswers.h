@@ -47,8 +47,8 @@ Q_SIGNALS:
     /// The list of templates is another one.
     void TemplatesChanged();
 
-    /// Another client has changed this template as well; his is in the list now under the second name.
-    void TemplateKept(const QString& name, const QString& keptAs);
+    /// Another client has changed a template as well; his is in the list now under this name.
+    void TemplateKept(const QString& name);
 
     void OptionsWanted();
     void OptionsDone();
@@ -85,7 +85,7 @@ private:
     QString TellError(const Message& message);
     QString Nothing(const Message&) { return {}; }
 
-    void KeepOthers(const FileTexts& changed, QList<TemplateEntry>& wanted, FileTexts& texts);
+    bool TryToStore(QList<TemplateEntry> wanted, const FileTexts& changed);
 
     HostRouter& m_router;
     Project& m_project;

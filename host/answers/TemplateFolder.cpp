@@ -95,13 +95,13 @@ FileTexts TemplateFolder::Changed(const QStringList& expected) const
     return changed;
 }
 
-FileTexts TemplateFolder::ChangedElsewhere(const FileTexts& changed) const
+FileTexts TemplateFolder::ChangedElsewhere(const FileTexts& stored, const FileTexts& changed) const
 {
     FileTexts others;
-    for (const auto& [name, text] : changed) {
-        const QString stored = m_project.TemplateText(name);
-        if (!stored.isEmpty() && stored != text && IsChanged(name, stored))
-            others.append({name, stored});
+    for (qsizetype index = 0; index < stored.size(); ++index) {
+        const auto& [name, text] = stored[index];
+        if (!text.isEmpty() && text != changed[index].second && IsChanged(name, text))
+            others.append({name, text});
     }
     return others;
 }

@@ -34,8 +34,9 @@ public:
     /// `expected` names that the project does not have yet.
     FileTexts Changed(const QStringList& expected) const;
 
-    /// What the project has of these files, where another client has changed it since it was laid out here.
-    FileTexts ChangedElsewhere(const FileTexts& changed) const;
+    /// Those texts of the project that another client has stored since they were laid out here, where other ones have
+    /// been made here. Both lists name the same files.
+    FileTexts ChangedElsewhere(const FileTexts& stored, const FileTexts& changed) const;
 
     /// The files here are what the project has: it was given them just now.
     void Remember(const FileTexts& texts);

@@ -113,9 +113,9 @@ QString Project::TemplateText(const QString& fileName) const
 }
 
 void Project::MergeTemplates(const QList<TemplateEntry>& shown, const QList<TemplateEntry>& wanted,
-                             const QList<QPair<QString, QString>>& texts)
+                             const QList<QPair<QString, QString>>& texts, const QList<QPair<QString, QString>>& known)
 {
-    Writing(*m_database, [&] { TemplateStore(*m_database).Merge(shown, wanted, texts); });
+    Writing(*m_database, [&] { TemplateStore(*m_database).Merge(shown, wanted, texts, known); });
 }
 
 void Project::RemoveTemplate(const QString& fileName)

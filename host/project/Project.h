@@ -75,8 +75,9 @@ public:
     /// has removed it since. `texts` holds the texts of files by their names, which are stored as well; a template that
     /// has one need not be changed otherwise. Throws when two entries would have one name or one file name (which is so
     /// as well when another one has made a template of that file name since), and for the text of a file in no entry.
+    /// `known` holds texts that he has seen; when another one is stored by now, `TextsChanged` is thrown.
     void MergeTemplates(const QList<TemplateEntry>& shown, const QList<TemplateEntry>& wanted,
-                        const QList<QPair<QString, QString>>& texts);
+                        const QList<QPair<QString, QString>>& texts, const QList<QPair<QString, QString>>& known = {});
 
     /// Takes a template from the list, and its text. A category that used it uses its default from then on, or none.
     /// Nothing happens when there is no such template.

@@ -72,8 +72,12 @@ QString TemplateStore::Text(const QString& fileName) const
 }
 
 void TemplateStore::Merge(const QList<TemplateEntry>& shown, const QList<TemplateEntry>& wanted,
-                          const QList<QPair<QString, QString>>& texts)
+                          const QList<QPair<QString, QString>>& texts, const QList<QPair<QString, QString>>& known)
 {
+    for (const auto& [fileName, text] : known) {
+        if (Text(fileName) != text)
+            throw TextsChanged(QStringLiteral("somebody else has changed %1 at the same moment").arg(fileName));
+    }
     const QList<TemplateEntry> before = Templates();
     Replace(before, MergedTemplates(before, shown, wanted, KeysOf(texts)));
     for (const auto& [fileName, text] : texts)

@@ -16,7 +16,7 @@ public:
     QList<TemplateEntry> Templates() const;
     QString Text(const QString& fileName) const;
     void Merge(const QList<TemplateEntry>& shown, const QList<TemplateEntry>& wanted,
-               const QList<QPair<QString, QString>>& texts);
+               const QList<QPair<QString, QString>>& texts, const QList<QPair<QString, QString>>& known);
     void Remove(const QString& fileName);
     QString Current(const QString& category) const;
     void SetCurrent(const QString& category, const QString& fileName);

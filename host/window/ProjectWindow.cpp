@@ -169,8 +169,8 @@ void ProjectWindow::ConnectAnswers(const ProjectAnswers& answers)
     connect(&answers, &ProjectAnswers::TemplateChosen, this,
             [this](const QString& xml) { Guarded([&] { UseTemplate(xml); }); });
     connect(&answers, &ProjectAnswers::TemplatesChanged, this, [this] { Guarded([this] { ListCategories(); }); });
-    connect(&answers, &ProjectAnswers::TemplateKept, this, [this](const QString& name, const QString& keptAs) {
-        m_bar->Tell(tr("Someone else has changed the template %1 as well. Theirs is kept as %2.").arg(name, keptAs));
+    connect(&answers, &ProjectAnswers::TemplateKept, this, [this](const QString& name) {
+        m_bar->Tell(tr("Someone else has changed this template as well. Theirs is kept as %1.").arg(name));
     });
     connect(&answers, &ProjectAnswers::OptionsWanted, this, [this] { Guarded([this] { ShowOptions(); }); });
     connect(&answers, &ProjectAnswers::OptionsDone, this, [this] { Later([this] { EndOptions(); }); });

@@ -40,6 +40,8 @@ int Low(std::uint64_t number)
 
 } // namespace
 
+CFileUtility::~CFileUtility() = default;
+
 bool CFileUtility::FindFile(const QString& strName)
 {
     FindClose();

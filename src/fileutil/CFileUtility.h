@@ -29,7 +29,7 @@ class CFileUtility
 {
 public:
     CFileUtility() = default;
-    virtual ~CFileUtility() = default;
+    virtual ~CFileUtility();
     Q_DISABLE_COPY_MOVE(CFileUtility)
 
     /// Closes an open search and begins one; an empty pattern means "*.*". True when there is a first match.

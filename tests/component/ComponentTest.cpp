@@ -120,8 +120,7 @@ TEST(ComponentLibrary, ExportsTheContractAndNothingElse)
                        "schedules::(Sheet|CellStore|Axis|Message|ParameterList)::.*|"
                        "schedules::(C(Template|Group|Element|Propert|Categor)\\w*|NamedMembers<\\S+>)::.*|"
                        "schedules::(TextOf|FlagOf|FoldedKey|MemberId::(Set|ForgetOnWrite))(\\[abi:\\w+\\])?\\(.*|"
-                       "schedules::CFileUtility::(Find|DeleteFile|Get|Is|MatchesMask).*|"
-                       "schedules::DirectorySearch::~DirectorySearch\\(.*|"
+                       "schedules::CFileUtility::(Find|DeleteFile|Get|Is|MatchesMask|~CFileUtility).*|"
                        "schedules::CSchedule::GetUnitLabel\\(.*|"
                        "(vtable|typeinfo|typeinfo name|non-virtual thunk to|guard variable) ?(for)? ?"
                        "schedules::(Sheet|CFileUtility|IToolUI|IMsgRouter|IComponentFactory|UserInterface)\\b.*)$"));

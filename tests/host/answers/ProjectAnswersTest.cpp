@@ -21,7 +21,7 @@ struct ProjectAnswersTest : SmallProject
         });
         QObject::connect(&answers, &ProjectAnswers::TemplatesChanged, [this] { told << "templates"; });
         QObject::connect(&answers, &ProjectAnswers::TemplateKept,
-                         [this](const QString& name, const QString& as) { told << name + " kept as " + as; });
+                         [this](const QString& name) { told << "kept " + name; });
         QObject::connect(&answers, &ProjectAnswers::OptionsWanted, [this] { told << "options"; });
         QObject::connect(&answers, &ProjectAnswers::OptionsDone, [this] { told << "options done"; });
         QObject::connect(&answers, &ProjectAnswers::ScheduleDone, [this] { told << "schedule done"; });
@@ -214,7 +214,7 @@ TEST_F(ProjectAnswersTest, ATemplateThatSomebodyElseHasChangedAsWellIsKeptUnderA
     SendList(list);
     EXPECT_EQ(project->TemplateText("Flow.xml"), mine);
     EXPECT_EQ(project->TemplateText("Flow (2).xml"), theirs);
-    EXPECT_EQ(told, (QStringList{"Flow kept as Flow (2)", "templates"}));
+    EXPECT_EQ(told, (QStringList{"kept Flow (2)", "templates"}));
 }
 
 TEST_F(ProjectAnswersTest, AListThatIsNoXmlFailsAndChangesNothing)

@@ -87,10 +87,11 @@ TEST_F(TemplateFolderTest, TellsWhatSomebodyElseHasChangedAsWell)
 {
     folder->LayOut();
     const QString theirs = TemplateWith("Flow", {});
-    EXPECT_EQ(folder->ChangedElsewhere({{"Flow.xml", changed}}), FileTexts());
-    ChangedInProject("Flow.xml", theirs);
-    EXPECT_EQ(folder->ChangedElsewhere({{"Flow.xml", changed}}), (FileTexts{{"Flow.xml", theirs}}));
-    EXPECT_EQ(folder->ChangedElsewhere({{"Flow.xml", theirs}}), FileTexts()) << "both have made the same of it";
+    const QString before = project->TemplateText("Flow.xml");
+    const FileTexts mine{{"Flow.xml", changed}};
+    EXPECT_EQ(folder->ChangedElsewhere({{"Flow.xml", before}}, mine), FileTexts());
+    EXPECT_EQ(folder->ChangedElsewhere({{"Flow.xml", theirs}}, mine), (FileTexts{{"Flow.xml", theirs}}));
+    EXPECT_EQ(folder->ChangedElsewhere(mine, mine), FileTexts()) << "both have made the same of it";
 }
 
 TEST_F(TemplateFolderTest, KeepsAChangeThatNeverReachedTheProject)

@@ -1,4 +1,5 @@
 #include "StoredProject.h"
+#include "host/HostError.h"
 
 #include <algorithm>
 
@@ -188,6 +189,17 @@ TEST_P(ProjectTemplates, OneThatIsNotThereCannotBeCurrent)
 {
     EXPECT_EQ(Failure([&] { project->SetCurrentTemplate("PUMPS", "absent.xml"); }), "there is no template absent.xml");
     EXPECT_EQ(project->CurrentTemplate("PUMPS"), "Duty.xml");
+}
+
+TEST_P(ProjectTemplates, TextsThatSomebodyElseHasChangedSinceTheyWereLookedAtAreNotReplaced)
+{
+    const QString seen = project->TemplateText("Duty.xml");
+    Project::Open(Address())->MergeTemplates(shown, shown, {{"Duty.xml", "<Template theirs='1'/>"}});
+    EXPECT_THROW(project->MergeTemplates(shown, shown, {{"Duty.xml", "<Template/>"}}, {{"Duty.xml", seen}}),
+                 TextsChanged);
+    EXPECT_EQ(project->TemplateText("Duty.xml"), "<Template theirs='1'/>");
+    project->MergeTemplates(shown, shown, {{"Duty.xml", "<Template/>"}}, {{"Duty.xml", "<Template theirs='1'/>"}});
+    EXPECT_EQ(project->TemplateText("Duty.xml"), "<Template/>");
 }
 
 } // namespace schedules::host::testing
