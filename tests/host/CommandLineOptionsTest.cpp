@@ -55,7 +55,11 @@ TEST(CommandLineOptions, APictureIsNamedAndWhatItShows)
 TEST(CommandLineOptions, LanguagePaletteAndMessagesAreTaken)
 {
     EXPECT_EQ(Parsed({"--language", "de", "--palette", "dark", "--messages", "m"}),
-              (CommandLine{.form = Form::Options, .messages = "m", .language = "de", .palette = Palette::Dark}));
+              (CommandLine{.form = Form::Options,
+                           .messages = "m",
+                           .languageChosen = true,
+                           .language = "de",
+                           .palette = Palette::Dark}));
 }
 
 TEST(CommandLineOptions, OnlyAWindowNeedsADisplay)

@@ -42,6 +42,7 @@ TEST(CommandLine, AWindowTakesViewSelectAllMessagesAndLanguage)
               (CommandLine{.files = {"a.xml"},
                            .view = {.view = View::Selector, .selectAll = true},
                            .messages = "m",
+                           .languageChosen = true,
                            .language = "de"}));
 }
 
@@ -105,7 +106,7 @@ TEST(CommandLine, AnOptionOfTheOtherViewIsRefused)
 TEST(CommandLine, TemplateTakesAFileAndALanguage)
 {
     EXPECT_EQ(Parsed({"template", "a.xml", "--language", "de"}),
-              (CommandLine{.form = Form::Template, .files = {"a.xml"}, .language = "de"}));
+              (CommandLine{.form = Form::Template, .files = {"a.xml"}, .languageChosen = true, .language = "de"}));
     EXPECT_EQ(Refused({"template"}), "a file is missing");
     EXPECT_EQ(Refused({"template", "a.xml", "b.xml"}), "one file at a time, not also 'b.xml'");
     EXPECT_EQ(Refused({"template", ""}), "the file name is empty");
@@ -113,8 +114,10 @@ TEST(CommandLine, TemplateTakesAFileAndALanguage)
 
 TEST(CommandLine, CatalogueTakesTwoListsAFolderAndALanguage)
 {
-    EXPECT_EQ(Parsed({"catalogue", "l.xml", "c.xml", "folder", "--language", "fr"}),
-              (CommandLine{.form = Form::Catalogue, .files = {"l.xml", "c.xml", "folder"}, .language = "fr"}));
+    EXPECT_EQ(
+        Parsed({"catalogue", "l.xml", "c.xml", "folder", "--language", "fr"}),
+        (CommandLine{
+            .form = Form::Catalogue, .files = {"l.xml", "c.xml", "folder"}, .languageChosen = true, .language = "fr"}));
     EXPECT_EQ(Parsed({"catalogue", "l.xml", "c.xml", ""}).files, (QStringList{"l.xml", "c.xml", ""}));
     const QString needed = "catalogue takes a list of templates, a list of categories, and a folder";
     EXPECT_EQ(Refused({"catalogue"}), needed);
@@ -127,7 +130,7 @@ TEST(CommandLine, CatalogueTakesTwoListsAFolderAndALanguage)
 TEST(CommandLine, FindTakesAPatternAndALanguage)
 {
     EXPECT_EQ(Parsed({"find", "a/*.xml", "--language", "de"}),
-              (CommandLine{.form = Form::Find, .files = {"a/*.xml"}, .language = "de"}));
+              (CommandLine{.form = Form::Find, .files = {"a/*.xml"}, .languageChosen = true, .language = "de"}));
     EXPECT_EQ(Parsed({"find", ""}).files, QStringList{""});
     const QString needed = "find takes one pattern, in quotes if a shell would expand it";
     EXPECT_EQ(Refused({"find"}), needed);

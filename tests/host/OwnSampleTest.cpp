@@ -1,12 +1,16 @@
-// The window that is opened without a file.
+// The window that is opened without a project or a file.
 
 #include "host/OwnSample.h"
 
 #include "HostProgram.h"
 #include "host/HostError.h"
+#include "host/project/Project.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QSettings>
+
+#include <functional>
 
 namespace schedules::host::testing {
 
@@ -14,53 +18,114 @@ namespace {
 
 struct OwnSampleTest : HostProgram
 {
-    /// Starts a window without a file and leaves it when the schedule is shown.
-    void StartWindow()
+    /// Starts a window without a file.
+    void Start(QProcess& window) const
     {
-        QProcess window;
         window.setProcessEnvironment(WithDataFolder(Path(QStringLiteral("data"))));
         window.setProgram(QStringLiteral(SCHEDULES_BIN_DIR "/schedhost"));
         window.setArguments({"--messages", Path(QStringLiteral("messages"))});
         window.start();
-        const auto isShown = [this] {
-            QFile file(Path(QStringLiteral("messages")));
-            return file.open(QIODevice::ReadOnly) && file.readAll().contains("InitializeSchedule");
-        };
-        for (QDeadlineTimer deadline(60'000); !isShown() && !deadline.hasExpired();)
+        EXPECT_TRUE(window.waitForStarted());
+    }
+
+    static void WaitUntil(QProcess& window, const std::function<bool()>& isSo)
+    {
+        for (QDeadlineTimer deadline(60'000); !isSo() && !deadline.hasExpired();)
             window.waitForFinished(20);
-        EXPECT_TRUE(isShown());
+        EXPECT_TRUE(isSo());
+    }
+
+    bool ShowsAView() const
+    {
+        QFile file(Path(QStringLiteral("messages")));
+        return file.open(QIODevice::ReadOnly) && file.readAll().contains("InitializeSchedule");
+    }
+
+    /// Starts one and leaves it when the tags of the first category are shown.
+    void StartWindow()
+    {
+        QProcess window;
+        Start(window);
+        WaitUntil(window, [this] { return ShowsAView(); });
         window.kill();
         window.waitForFinished();
         QFile::remove(Path(QStringLiteral("messages")));
     }
 
+    std::unique_ptr<Project> Own() const { return Project::Open(Path(own)); }
+
+    bool IsWhole() const { return Own()->Categories().size() == 6 && Own()->Tags().size() >= 300; }
+
     static QProcessEnvironment WithDataFolder(const QString& folder)
     {
         auto environment = Bare();
         environment.insert(QStringLiteral("XDG_DATA_HOME"), folder);
+        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), folder);
         return environment;
     }
 
-    const QString own = QStringLiteral("data/schedhost/pumps.xml");
+    const QString own = QStringLiteral("data/schedhost/sample.schedules");
+    const QString unfinished = QStringLiteral("data/schedhost/unfinished.schedules");
 };
 
 } // namespace
 
-TEST_F(OwnSampleTest, TheFirstStartMakesACopyThatMayBeEdited)
+TEST_F(OwnSampleTest, TheFirstStartMakesASampleProjectThatMayBeEdited)
 {
     StartWindow();
-    QFile sample(Sample(QStringLiteral("pumps.xml")));
-    ASSERT_TRUE(sample.open(QIODevice::ReadOnly));
-    EXPECT_EQ(Read(own), sample.readAll());
+    EXPECT_TRUE(IsWhole());
     EXPECT_TRUE(QFileInfo(Path(own)).isWritable());
+    EXPECT_FALSE(QFileInfo::exists(Path(unfinished)));
 }
 
-TEST_F(OwnSampleTest, LaterStartsShowTheCopyAsItIs)
+TEST_F(OwnSampleTest, LaterStartsShowItAsItIs)
 {
     StartWindow();
-    Written(own, kSmallTable);
+    const QString flow = QStringLiteral("PUMPS/Design/Flow");
+    Own()->Save({{"P-101A", flow, "7", Own()->Values({"P-101A"}, {flow}).first().first().version}});
     StartWindow();
-    EXPECT_EQ(Read(own), kSmallTable);
+    EXPECT_EQ(Own()->Values({"P-101A"}, {flow}).first().first().text, "7");
+}
+
+TEST_F(OwnSampleTest, WhatAStartThatWasCutShortLeftIsMadeAnew)
+{
+    ASSERT_TRUE(QDir(Path(QString())).mkpath(QStringLiteral("data/schedhost")));
+    Written(unfinished, "part of a database");
+    StartWindow();
+    EXPECT_TRUE(IsWhole());
+    EXPECT_FALSE(QFileInfo::exists(Path(unfinished)));
+}
+
+TEST_F(OwnSampleTest, AStartThatIsKilledLeavesNoPartOfASample)
+{
+    QProcess window;
+    Start(window);
+    WaitUntil(window, [this] { return QFileInfo::exists(Path(unfinished)) || QFileInfo::exists(Path(own)); });
+    window.kill();
+    window.waitForFinished();
+    EXPECT_TRUE(!QFileInfo::exists(Path(own)) || IsWhole());
+    StartWindow();
+    EXPECT_TRUE(IsWhole());
+}
+
+TEST_F(OwnSampleTest, TwoStartsAtOnceShareOneSample)
+{
+    QProcess first;
+    QProcess second;
+    Start(first);
+    Start(second);
+    const auto bothShow = [this] {
+        QFile file(Path(QStringLiteral("messages")));
+        return file.open(QIODevice::ReadOnly) && file.readAll().count("InitializeSchedule") == 2;
+    };
+    WaitUntil(first, bothShow);
+    EXPECT_EQ(first.state(), QProcess::Running);
+    EXPECT_EQ(second.state(), QProcess::Running);
+    EXPECT_TRUE(IsWhole());
+    for (QProcess* window : {&first, &second}) {
+        window->kill();
+        window->waitForFinished();
+    }
 }
 
 TEST_F(OwnSampleTest, AFolderThatCannotBeMadeIsTold)

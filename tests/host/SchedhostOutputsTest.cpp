@@ -1,6 +1,6 @@
 // What `render` writes, read back by other programs.
 
-#include "HostProgram.h"
+#include "HostOutputs.h"
 
 #include <QDir>
 #include <QImage>
@@ -10,37 +10,9 @@ namespace schedules::host::testing {
 
 namespace {
 
-struct SchedhostOutputs : HostProgram
+struct SchedhostOutputs : HostOutputs
 {
     QString Small() const { return Written(QStringLiteral("small.xml"), kSmallTable); }
-
-    /// The output of a program that reads a file in the test's folder.
-    QByteArray By(const QString& program, const QStringList& arguments)
-    {
-        QProcess reader;
-        reader.setWorkingDirectory(Path(QStringLiteral(".")));
-        reader.start(program, arguments);
-        EXPECT_TRUE(reader.waitForFinished(60'000)) << qPrintable(reader.errorString());
-        EXPECT_EQ(reader.exitCode(), 0) << reader.readAllStandardError().constData();
-        return reader.readAllStandardOutput();
-    }
-
-    QByteArray WorkbookText(const QString& name)
-    {
-        return By(QStringLiteral("/usr/bin/python3"),
-                  {"-c",
-                   "import sys, xlrd\n"
-                   "for sheet in xlrd.open_workbook(sys.argv[1]).sheets():\n"
-                   "    print(sheet.name)\n"
-                   "    for row in sheet.get_rows(): print('|'.join(str(cell.value) for cell in row))\n",
-                   name});
-    }
-
-    QStringList PdfWords(const QString& name)
-    {
-        return QString::fromUtf8(By(QStringLiteral("pdftotext"), {"-layout", name, "-"}))
-            .split(QRegularExpression("\\s+"), Qt::SkipEmptyParts);
-    }
 
     QString PdfPageSize(const QString& name)
     {
@@ -51,13 +23,6 @@ struct SchedhostOutputs : HostProgram
     QStringList Files(const QString& folder) const
     {
         return QDir(Path(folder)).entryList(QDir::Files | QDir::Hidden, QDir::Name);
-    }
-
-    void ExpectDone(const Outcome& run, const QByteArray& written)
-    {
-        EXPECT_EQ(run.exitCode, 0);
-        EXPECT_EQ(run.err, "");
-        EXPECT_EQ(run.out, written);
     }
 };
 
@@ -78,11 +43,7 @@ TEST_F(SchedhostOutputs, AWorkbookHoldsTheTable)
 TEST_F(SchedhostOutputs, AnOfficeOpenXmlWorkbookHoldsTheTable)
 {
     ExpectDone(Schedhost({"render", Small(), "--xlsx", "out.xlsx"}), "out.xlsx\n");
-    const QString sheet = QString::fromUtf8(By("unzip", {"-p", "out.xlsx", "xl/worksheets/sheet1.xml"}));
-    QStringList values;
-    for (const auto& match : QRegularExpression("<[tv](?: [^>]*)?>([^<]*)<").globalMatch(sheet))
-        values << match.captured(1);
-    EXPECT_EQ(values, (QStringList{"h", "a", "b", "r", "1", "2", "s", "3", "4"}));
+    EXPECT_EQ(OfficeOpenXmlValues("out.xlsx"), (QStringList{"h", "a", "b", "r", "1", "2", "s", "3", "4"}));
 }
 
 TEST_F(SchedhostOutputs, AWebPageHoldsTheTable)
