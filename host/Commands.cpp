@@ -27,9 +27,9 @@ int ShowTable(Session& session, const CommandLine& commandLine, const QString& f
 
 int ShowProject(Session& session, const CommandLine& commandLine, const QString& address)
 {
-    auto project = Project::Open(address); // likewise
     ProjectWindow window(session);
     window.UseColours(commandLine.palette);
+    auto project = window.Opened(address); // likewise
     window.show();
     window.Show(std::move(project), commandLine.languageChosen ? commandLine.language : QString());
     return QApplication::exec();

@@ -83,9 +83,8 @@ For dump and render, done after loading in this order; columns and rows are numb
 The window saves into the file that it shows; dump and render never change it.
 
 Exit codes: 0 done, 1 a file could not be loaded or written, or the view did not allow it, 2 wrong usage, 3 somebody
-else has stored another value at the same moment (set). When render
-fails with one file or output, it goes on with the others. catalogue lists templates whose files cannot be
-read, too; what is reported of them goes to standard error.
+else has stored another value at the same moment (set). When render fails with one file or output, it goes on with the
+others. catalogue lists templates whose files cannot be read, too; what is reported of them goes to standard error.
 )");
 }
 

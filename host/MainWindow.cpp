@@ -5,6 +5,7 @@
 #include "host/HostRouter.h"
 #include "host/MessageDock.h"
 #include "host/ScheduleTool.h"
+#include "host/Warning.h"
 #include "host/project/DataFolder.h"
 
 #include <QActionGroup>
@@ -134,7 +135,7 @@ bool MainWindow::Show(const QString& fileName, const ViewOptions& options)
         ShowTable(TableFile(fileName), options);
         return true;
     } catch (const HostError& error) {
-        QMessageBox::warning(this, windowTitle(), error.Line());
+        Warn(*this, error.Line());
         return false;
     }
 }

@@ -90,7 +90,9 @@ QVariant MessageModel::data(const QModelIndex& index, int role) const
     const QString text = FieldText(m_crossings[index.row()], index.column());
     if (role == Qt::DisplayRole)
         return OnOneLine(text);
-    return text.size() > kLongestLine ? text.left(kLongestTip) : QVariant();
+    // A tip is taken for markup where it looks like some.
+    return text.size() > kLongestLine ? Qt::convertFromPlainText(text.left(kLongestTip), Qt::WhiteSpaceNormal)
+                                      : QVariant();
 }
 
 QVariant MessageModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -184,6 +184,7 @@ int RunImport(const CommandLine& commandLine)
 int RunList(const CommandLine& commandLine)
 {
     const auto project = Project::Open(commandLine.files.first());
+    const Project::Moment moment(*project);
     const ProjectOptions& options = commandLine.project;
     if (options.category.isEmpty())
         PrintCategories(*project, options.asJson);
@@ -195,6 +196,7 @@ int RunList(const CommandLine& commandLine)
 int RunGet(const CommandLine& commandLine)
 {
     const auto project = Project::Open(commandLine.files[0]);
+    const Project::Moment moment(*project);
     const Tag tag = TagOf(*project, commandLine.files[1]);
     if (commandLine.files.size() < 3) {
         PrintValues(*project, tag, commandLine.project.asJson);

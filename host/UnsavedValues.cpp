@@ -1,9 +1,9 @@
 #include "host/UnsavedValues.h"
 
 #include "host/ScheduleTool.h"
+#include "host/Warning.h"
 
 #include <QCoreApplication>
-#include <QMessageBox>
 
 namespace schedules::host {
 
@@ -11,8 +11,7 @@ UnsavedValues AskAboutUnsaved(QWidget& window, const QString& file)
 {
     const QString text = QCoreApplication::translate("UnsavedValues", "%1 has edits that are not saved.");
     const auto answer =
-        QMessageBox::warning(&window, window.windowTitle(), text.arg(file),
-                             QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+        Warn(window, text.arg(file), QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
     switch (answer) {
     case QMessageBox::Save:
         return UnsavedValues::Save;

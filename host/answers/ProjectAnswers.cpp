@@ -35,7 +35,7 @@ void FillCategories(QList<TemplateEntry>& entries, const FileTexts& files)
 bool IsTaken(const QList<TemplateEntry>& entries, const QString& name)
 {
     return std::ranges::any_of(entries, [&](const TemplateEntry& entry) {
-        return SameName(entry.name, name) || SameName(entry.fileName, name + QStringLiteral(".xml"));
+        return SameName(entry.name, name) || SameName(entry.fileName, FileNameFor(name));
     });
 }
 
@@ -52,6 +52,7 @@ QString FreeName(const QList<TemplateEntry>& entries, const QString& name)
 /// Of the same files, as the project has them; empty where it has none.
 FileTexts StoredTexts(const Project& project, const FileTexts& files)
 {
+    const Project::Moment moment(project);
     FileTexts stored;
     for (const auto& [fileName, text] : files)
         stored.append({fileName, project.TemplateText(fileName)});
@@ -69,7 +70,7 @@ QStringList KeepOthers(const FileTexts& others, const QList<TemplateEntry>& list
             continue;
         TemplateEntry kept = *entry;
         kept.name = FreeName(wanted + listed, entry->name);
-        kept.fileName = kept.name + QStringLiteral(".xml");
+        kept.fileName = FileNameFor(kept.name);
         kept.defaultForCategory = false;
         texts.append({kept.fileName, text});
         wanted.append(kept);

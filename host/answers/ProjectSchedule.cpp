@@ -65,6 +65,7 @@ QStringList TagNames(const Project& project, const QString& category)
 
 TemplateLayout CurrentLayout(const Project& project, const QString& category)
 {
+    const Project::Moment moment(project);
     RequireCategory(project, category);
     const QString fileName = project.CurrentTemplate(category);
     if (fileName.isEmpty())
@@ -83,6 +84,7 @@ TemplateLayout LayoutOf(const Project& project, const QString& fileName)
 ScheduleContent ContentOf(const Project& project, const QString& category, const QStringList& tags,
                           const TemplateLayout& layout)
 {
+    const Project::Moment moment(project);
     RequireCategory(project, category);
     return Known(project, Named(project, category, tags), LocationsShown(layout));
 }
@@ -107,6 +109,7 @@ int ChangedElsewhere(const ScheduleContent& shown, const ScheduleContent& now, c
 
 QString SelectionOf(const Project& project, const QString& category, const SelectionCaptions& captions)
 {
+    const Project::Moment moment(project);
     RequireCategory(project, category);
     const QString fileName = project.CurrentTemplate(category);
     QStringList shown = fileName.isEmpty() ? QStringList() : LocationsShown(LayoutOf(project, fileName));

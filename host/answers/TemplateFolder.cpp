@@ -38,6 +38,18 @@ bool HasName(const QList<TemplateEntry>& entries, const QString& name)
     return std::ranges::any_of(entries, [&](const TemplateEntry& entry) { return SameName(entry.name, name); });
 }
 
+bool LeadsElsewhere(QChar character)
+{
+    return character == u'/' || character == u'\\' || character < u' ';
+}
+
+/// Whether a name is one of a file directly in a folder. A server is trusted with values, not with the way to a file.
+bool IsFileName(const QString& name)
+{
+    return !name.trimmed().isEmpty() && name != QLatin1String(".") && name != QLatin1String("..") && name != kMemory &&
+           std::ranges::none_of(name, LeadsElsewhere);
+}
+
 void Remove(const QString& file)
 {
     if (!QFile::remove(file))
@@ -68,7 +80,10 @@ TemplateFolder::TemplateFolder(Project& project, const QString& folder)
 
 void TemplateFolder::LayOut()
 {
+    const Project::Moment moment(m_project);
     const QStringList listed = FileNames(m_project.Templates());
+    for (const QString& name : listed)
+        FileOf(name); // a bad name is told before anything is written
     for (const QString& name : listed) {
         const QString wanted = m_project.TemplateText(name);
         const QString present = TextOf(name);
@@ -135,7 +150,14 @@ void TemplateFolder::Adopt(const QString& fileName)
 
 QString TemplateFolder::FileOf(const QString& fileName) const
 {
+    if (!IsFileName(fileName))
+        throw HostError(QStringLiteral("no template can have the file name \"%1\"").arg(fileName.simplified()));
     return QDir(m_path).filePath(fileName);
+}
+
+QString TemplateFolder::MemoryFile() const
+{
+    return QDir(m_path).filePath(kMemory);
 }
 
 /// Empty when there is no such file.
@@ -169,7 +191,7 @@ void TemplateFolder::RemoveGone(const QStringList& listed)
 
 void TemplateFolder::ReadMemory()
 {
-    QFile file(FileOf(kMemory));
+    QFile file(MemoryFile());
     if (!file.open(QIODevice::ReadOnly))
         return; // nothing was laid out yet; files that are there already are then changed ones
     const QJsonObject memory = QJsonDocument::fromJson(file.readAll()).object();
@@ -182,13 +204,23 @@ void TemplateFolder::WriteMemory() const
     QJsonObject memory;
     for (auto entry = m_laidOut.begin(); entry != m_laidOut.end(); ++entry)
         memory.insert(entry.key(), entry.value());
-    ReplaceFile(FileOf(kMemory), QJsonDocument(memory).toJson());
+    ReplaceFile(MemoryFile(), QJsonDocument(memory).toJson());
 }
 
 QString OwnTemplateFolder(const Project& project)
 {
     const QDir own(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
-    return own.filePath(QStringLiteral("projects/%1/templates").arg(project.Id()));
+    const QString id = project.Id();
+    if (!IsFileName(id))
+        throw HostError(QStringLiteral("%1 has no valid identifier").arg(project.Address().Text()));
+    return own.filePath(QStringLiteral("projects/%1/templates").arg(id));
+}
+
+QString FileNameFor(const QString& templateName)
+{
+    QString fileName = templateName;
+    std::ranges::replace_if(fileName, LeadsElsewhere, u'-');
+    return fileName + QStringLiteral(".xml");
 }
 
 TemplateEntry EntryOfFile(const QString& fileName, const QString& text)

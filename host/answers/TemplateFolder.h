@@ -11,7 +11,8 @@ class Project;
 /// The texts of files by their names.
 using FileTexts = QList<QPair<QString, QString>>;
 
-/// A project's templates laid out as files, which is how the options editor reads and writes them.
+/// A project's templates laid out as files, which is how the options editor reads and writes them. All of them lie
+/// directly in the folder: a name by which the project leads elsewhere throws `HostError`.
 ///
 /// The folder remembers what was laid out, so that a file that the editor has changed is told from one that another
 /// client has changed in the project. What was saved into the folder and never reached the project, since the program
@@ -50,6 +51,7 @@ public:
 
 private:
     QString FileOf(const QString& fileName) const;
+    QString MemoryFile() const;
     QString TextOf(const QString& fileName) const;
     bool IsChanged(const QString& fileName, const QString& text) const;
     void KeepAside(const QString& fileName);
@@ -62,8 +64,12 @@ private:
     QHash<QString, QString> m_laidOut; ///< checksums of what was laid out, by folded names of files
 };
 
-/// The folder for a project's templates among the user's own files.
+/// The folder for a project's templates among the user's own files. Throws `HostError` when the project's identifier
+/// cannot name one.
 QString OwnTemplateFolder(const Project& project);
+
+/// A name of a file for a template, whose own name may have what no file's name can.
+QString FileNameFor(const QString& templateName);
 
 /// What the list says of a template that only its file knows: name, display name and category from its root. Throws
 /// `HostError` for a text that is no template.

@@ -28,6 +28,8 @@ public:
 
     const ProjectAddress& Address() const { return m_address; }
 
+    bool InTransaction() const { return m_inTransaction; }
+
     using RowStep = std::function<void(const QSqlQuery& row)>;
 
     /// Runs a statement with values for its question marks, and hands each row of its answer to `step`. Throws as well

@@ -58,7 +58,7 @@ QString ServerLine(const QSqlError& error)
 QString FirstLine(const QSqlError& error)
 {
     QString line = error.databaseText().trimmed().section(u'\n', 0, 0).simplified();
-    for (const QLatin1String word : {QLatin1String("ERROR: "), QLatin1String("FATAL: ")})
+    for (const QLatin1String word : {QLatin1String("ERROR: "), QLatin1String("FATAL: "), QLatin1String("fe_sendauth: ")})
         line.remove(word);
     return line.isEmpty() ? error.driverText().simplified() : line;
 }

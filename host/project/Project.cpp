@@ -50,6 +50,14 @@ std::unique_ptr<Project> Project::Create(const QString& text)
     return project;
 }
 
+Project::Moment::Moment(const Project& project)
+{
+    if (!project.m_database->InTransaction())
+        m_transaction = std::make_unique<Transaction>(*project.m_database, Transaction::Purpose::Reading);
+}
+
+Project::Moment::~Moment() = default;
+
 QString Project::Id() const
 {
     return Meta(*m_database, QLatin1String("id"));

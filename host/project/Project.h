@@ -8,6 +8,7 @@
 namespace schedules::host {
 
 class Database;
+class Transaction;
 
 /// What a host knows: categories, tags, data items and their values, templates. All of it is in one database, a file or
 /// one on a server, which several programs may have open at once; nothing is held here, so that each answer is of now.
@@ -26,6 +27,19 @@ public:
 
     ~Project();
     Q_DISABLE_COPY_MOVE(Project)
+
+    /// While one lives, all that is read of the project is of one moment, whatever others store meanwhile, and costs a
+    /// server fewer round trips. Nothing can be written then; further ones change nothing.
+    class Moment
+    {
+    public:
+        explicit Moment(const Project& project);
+        ~Moment();
+        Q_DISABLE_COPY_MOVE(Moment)
+
+    private:
+        std::unique_ptr<Transaction> m_transaction;
+    };
 
     const ProjectAddress& Address() const { return m_address; }
 

@@ -28,10 +28,12 @@ private:
     Database& m_database;
 };
 
-/// What `step` returns, who reads one state of the database.
+/// What `step` returns, who reads one state of the database: that of the transaction which is open, if there is one.
 template <typename Step>
 auto Reading(Database& database, Step step)
 {
+    if (database.InTransaction())
+        return step();
     const Transaction transaction(database, Transaction::Purpose::Reading);
     return step();
 }

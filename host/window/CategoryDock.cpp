@@ -50,6 +50,7 @@ void CategoryDock::changeEvent(QEvent* event)
 
 void CategoryDock::Show(const Project& project, const QString& category)
 {
+    const Project::Moment moment(project);
     const QList<Category> categories = project.Categories();
     const QList<TemplateEntry> templates = project.Templates();
     const QSet<QString> expanded = Expanded();

@@ -83,7 +83,7 @@ void ConflictDialog::Fill(const QList<DataItem>& items)
         m_table->setCellWidget(row, kChoice, choice);
     }
     m_table->resizeColumnsToContents();
-    for (const int column : {kItem, kStored, kOwn})
+    for (const int column : {kStored, kOwn})
         m_table->horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
 }
 

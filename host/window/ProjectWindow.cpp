@@ -6,6 +6,7 @@
 #include "host/OptionsTool.h"
 #include "host/ScheduleTool.h"
 #include "host/Session.h"
+#include "host/Warning.h"
 #include "host/window/CategoryDock.h"
 #include "host/window/ConflictDialog.h"
 #include "host/window/HelpWindow.h"
@@ -15,7 +16,6 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QScreen>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -115,18 +115,15 @@ bool ProjectWindow::Open(const QString& address, const QString& language)
     if (!MayClose())
         return false;
     try {
-        auto project = OpenedProject(address);
-        if (project)
-            Show(std::move(project), language);
-        return m_open.project != nullptr;
+        Show(Opened(address), language);
+        return true;
     } catch (const HostError& error) {
-        QMessageBox::warning(this, windowTitle(), error.Line());
+        Warn(*this, error.Line());
         return false;
     }
 }
 
-/// Asks for the password of a server that does not let the user in without. Nothing when he gives none.
-std::unique_ptr<Project> ProjectWindow::OpenedProject(const QString& address)
+std::unique_ptr<Project> ProjectWindow::Opened(const QString& address)
 {
     try {
         return Project::Open(address);
@@ -191,8 +188,10 @@ void ProjectWindow::ConnectAnswers(const ProjectAnswers& answers)
 void ProjectWindow::OnCrossed(const Crossing& crossing)
 {
     m_messages->Append(crossing);
-    if (!crossing.failure.isEmpty())
-        m_bar->Tell(crossing.failure);
+    if (crossing.failure.isEmpty())
+        return;
+    m_bar->Tell(crossing.failure);
+    statusBar()->clearMessage(); // it may tell of an earlier success
 }
 
 void ProjectWindow::ListCategories()

@@ -46,7 +46,11 @@ public:
     /// would not leave unsaved values, or it cannot be opened, which is told in a message box.
     bool Open(const QString& address, const QString& language = {});
 
-    /// The same with a project that is open already.
+    /// Opens a project without showing it. Asks for the password of a server that does not let the user in without.
+    /// Throws `HostError`.
+    std::unique_ptr<Project> Opened(const QString& address);
+
+    /// Shows it as `Open` does.
     void Show(std::unique_ptr<Project> project, const QString& language = {});
 
     /// Shows all windows in these colours, or, when they are the desktop's, in those that the user chose last.
@@ -126,7 +130,6 @@ private:
     bool MayReplaceView();
     bool MayClose();
 
-    std::unique_ptr<Project> OpenedProject(const QString& address);
     std::optional<QList<ValueEdit>> AskConflicts(const QList<Conflict>& conflicts);
     void OnCrossed(const Crossing& crossing);
 

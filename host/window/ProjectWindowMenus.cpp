@@ -3,6 +3,7 @@
 #include "host/MessageDock.h"
 #include "host/Palettes.h"
 #include "host/Session.h"
+#include "host/Warning.h"
 #include "host/import/Import.h"
 #include "host/import/SampleProject.h"
 #include "host/window/CategoryDock.h"
@@ -128,7 +129,7 @@ void ProjectWindow::AskNew()
     try {
         Show(NewProject(file, FillWithStandards));
     } catch (const HostError& error) {
-        QMessageBox::warning(this, windowTitle(), error.Line());
+        Warn(*this, error.Line());
     }
 }
 
@@ -162,7 +163,7 @@ void ProjectWindow::AskImport()
         Retranslate();
         statusBar()->showMessage(tr("Imported %1 tags and %2 values").arg(result.tags).arg(result.values));
     } catch (const HostError& error) {
-        QMessageBox::warning(this, windowTitle(), error.Line());
+        Warn(*this, error.Line());
     }
 }
 

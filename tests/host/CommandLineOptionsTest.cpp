@@ -1,8 +1,6 @@
 // The command that opens the options editor.
 
-#include "host/CommandLine.h"
-
-#include <gtest/gtest.h>
+#include "ParsedCommandLine.h"
 
 namespace schedules::host {
 
@@ -10,19 +8,12 @@ namespace {
 
 CommandLine Parsed(const QStringList& arguments)
 {
-    const auto parsed = ParseCommandLine(QStringList{"options"} + arguments);
-    if (const auto* error = std::get_if<UsageError>(&parsed)) {
-        ADD_FAILURE() << qPrintable(error->line);
-        return {};
-    }
-    return std::get<CommandLine>(parsed);
+    return testing::Parsed(QStringList{"options"} + arguments);
 }
 
 QString Refused(const QStringList& arguments)
 {
-    const auto parsed = ParseCommandLine(QStringList{"options"} + arguments);
-    const auto* error = std::get_if<UsageError>(&parsed);
-    return error ? error->line : QStringLiteral("(accepted)");
+    return testing::Refused(QStringList{"options"} + arguments);
 }
 
 const QStringList kFiles{"folder", "--list", "l.xml", "--categories", "c.xml"};

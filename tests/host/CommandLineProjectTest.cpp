@@ -1,29 +1,10 @@
 // The commands on a project.
 
-#include "host/CommandLine.h"
+#include "ParsedCommandLine.h"
 
-#include <gtest/gtest.h>
-
-namespace schedules::host {
+namespace schedules::host::testing {
 
 namespace {
-
-CommandLine Parsed(const QStringList& arguments)
-{
-    const auto parsed = ParseCommandLine(arguments);
-    if (const auto* error = std::get_if<UsageError>(&parsed)) {
-        ADD_FAILURE() << qPrintable(error->line);
-        return {};
-    }
-    return std::get<CommandLine>(parsed);
-}
-
-QString Refused(const QStringList& arguments)
-{
-    const auto parsed = ParseCommandLine(arguments);
-    const auto* error = std::get_if<UsageError>(&parsed);
-    return error ? error->line : QStringLiteral("(accepted)");
-}
 
 /// The commands with as much as each needs.
 const QList<QStringList> kCommands{
@@ -178,4 +159,4 @@ TEST(CommandLineProject, HelpNamesEveryCommandAndOption)
             << option;
 }
 
-} // namespace schedules::host
+} // namespace schedules::host::testing

@@ -1,30 +1,8 @@
-#include "host/CommandLine.h"
+#include "ParsedCommandLine.h"
 
-#include <gtest/gtest.h>
 #include <string_view>
 
-namespace schedules::host {
-
-namespace {
-
-CommandLine Parsed(const QStringList& arguments)
-{
-    const auto parsed = ParseCommandLine(arguments);
-    if (const auto* error = std::get_if<UsageError>(&parsed)) {
-        ADD_FAILURE() << qPrintable(error->line);
-        return {};
-    }
-    return std::get<CommandLine>(parsed);
-}
-
-QString Refused(const QStringList& arguments)
-{
-    const auto parsed = ParseCommandLine(arguments);
-    const auto* error = std::get_if<UsageError>(&parsed);
-    return error ? error->line : QStringLiteral("(accepted)");
-}
-
-} // namespace
+namespace schedules::host::testing {
 
 TEST(CommandLine, NothingOpensTheSample)
 {
@@ -241,4 +219,4 @@ TEST(CommandLine, HelpNamesEveryCommand)
         EXPECT_TRUE(HelpText().contains(QStringLiteral("\n  schedhost %1").arg(command))) << command;
 }
 
-} // namespace schedules::host
+} // namespace schedules::host::testing

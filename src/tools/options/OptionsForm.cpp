@@ -212,6 +212,7 @@ QLayout* OptionsForm::ItemsColumn()
     moves->addStretch(); // where the legend is left out
     m_nameFields = new QGridLayout(fraItem);
     Tighten(*m_nameFields);
+    m_nameFields->setColumnStretch(1, 1);
     PlaceNameFields(false);
     auto* column = new QVBoxLayout;
     column->addLayout(name);
@@ -283,8 +284,13 @@ void OptionsForm::PlaceNameFields(bool narrow)
         m_nameFields->removeWidget(field);
     m_nameFields->addWidget(lblDisplayName, 0, 0);
     m_nameFields->addWidget(txtDisplayName, 0, 1, 1, narrow ? 3 : 1);
-    m_nameFields->addWidget(cmdUpdateUDItemName, narrow ? 1 : 0, 2);
-    m_nameFields->addWidget(cmdResetUDItemName, narrow ? 1 : 0, 3);
+    if (narrow) {
+        m_nameFields->addWidget(cmdUpdateUDItemName, 1, 0, 1, 2, Qt::AlignRight);
+        m_nameFields->addWidget(cmdResetUDItemName, 1, 2, 1, 2);
+        return;
+    }
+    m_nameFields->addWidget(cmdUpdateUDItemName, 0, 2);
+    m_nameFields->addWidget(cmdResetUDItemName, 0, 3);
 }
 
 /// Names are read from the side where the controls begin, whatever script they are in.

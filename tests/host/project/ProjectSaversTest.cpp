@@ -1,4 +1,5 @@
 #include "StoredProject.h"
+#include "host/HostError.h"
 
 #include <future>
 
@@ -39,6 +40,31 @@ TEST_P(ProjectSavers, AtTheSameMomentCannotBothWin)
     for (auto& saver : savers)
         stored += saver.get();
     EXPECT_EQ(Opened()->Values(kTag, kItem)[0][0].version, 1 + stored);
+}
+
+TEST_P(ProjectSavers, DoNotChangeWhatIsReadInOneMoment)
+{
+    Plant();
+    const auto project = Opened();
+    const auto shown = [&] { return project->Values(kTag, kItem)[0][0].text; };
+    const QString before = shown();
+    {
+        const Project::Moment moment(*project);
+        EXPECT_EQ(shown(), before);
+        const Project::Moment inside(*project);
+        EXPECT_EQ(Opened()->Save({{"P-1", "Design/Flow", "other", 1}}).stored, 1);
+        EXPECT_EQ(shown(), before);
+    }
+    EXPECT_EQ(shown(), "other");
+}
+
+TEST_P(ProjectSavers, CannotSaveWhileTheyHoldAMoment)
+{
+    Plant();
+    const auto project = Opened();
+    const Project::Moment moment(*project);
+    EXPECT_THROW(project->Save({{"P-1", "Design/Flow", "other", 1}}), HostError);
+    EXPECT_NE(Opened()->Values(kTag, kItem)[0][0].text, "other");
 }
 
 } // namespace schedules::host::testing

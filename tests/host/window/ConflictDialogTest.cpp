@@ -54,6 +54,13 @@ TEST_F(ConflictDialogTest, ListsBothValuesAndKeepsTheirsAtFirst)
     EXPECT_EQ(dialog.Insisted(), QList<ValueEdit>());
 }
 
+TEST_F(ConflictDialogTest, NamesDataItemsInOneLine)
+{
+    dialog.show();
+    const int width = Table().fontMetrics().horizontalAdvance(Table().item(0, 1)->text());
+    EXPECT_GT(Table().columnWidth(1), width);
+}
+
 TEST_F(ConflictDialogTest, WhatTheUserInsistsOnReplacesWhatIsStoredNow)
 {
     Choice(1).setCurrentIndex(1);
