@@ -21,9 +21,18 @@ enum FileFailure
     NoDatabase = 26
 };
 
+/// What is kept beside a file while it is open does not fit on the disk.
+constexpr int kNoRoomBeside = InputOutput | 19 << 8;
+
+int FailureOf(const QSqlError& error)
+{
+    const int code = error.nativeErrorCode().toInt();
+    return code == kNoRoomBeside ? int(Full) : code & 0xFF;
+}
+
 QString FileLine(const QSqlError& error)
 {
-    switch (error.nativeErrorCode().toInt() & 0xFF) {
+    switch (FailureOf(error)) {
     case Busy:
     case Locked:
         return QStringLiteral("%1 is locked by another program; try again");
@@ -58,7 +67,8 @@ QString ServerLine(const QSqlError& error)
 QString FirstLine(const QSqlError& error)
 {
     QString line = error.databaseText().trimmed().section(u'\n', 0, 0).simplified();
-    for (const QLatin1String word : {QLatin1String("ERROR: "), QLatin1String("FATAL: "), QLatin1String("fe_sendauth: ")})
+    for (const QLatin1String word :
+         {QLatin1String("ERROR: "), QLatin1String("FATAL: "), QLatin1String("fe_sendauth: ")})
         line.remove(word);
     return line.isEmpty() ? error.driverText().simplified() : line;
 }

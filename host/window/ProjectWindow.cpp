@@ -182,16 +182,27 @@ void ProjectWindow::ConnectAnswers(const ProjectAnswers& answers)
     });
     connect(&answers, &ProjectAnswers::Saved, this, &ProjectWindow::Freshen);
     connect(&answers, &ProjectAnswers::HelpWanted, this, &ProjectWindow::ShowHelp);
-    connect(&answers, &ProjectAnswers::ErrorTold, this, [this](const QString& error) { m_bar->Tell(error); });
+    connect(&answers, &ProjectAnswers::ErrorTold, this, &ProjectWindow::TellError);
 }
 
 void ProjectWindow::OnCrossed(const Crossing& crossing)
 {
     m_messages->Append(crossing);
-    if (crossing.failure.isEmpty())
+    if (crossing.failure.isEmpty()) {
+        const bool tellsError = !FailureOf(crossing).isEmpty();
+        if (!tellsError)
+            m_failure.clear();
         return;
+    }
+    m_failure = crossing.failure;
     m_bar->Tell(crossing.failure);
     statusBar()->clearMessage(); // it may tell of an earlier success
+}
+
+/// What a tool could not do, and why, when this host has just failed to answer it.
+void ProjectWindow::TellError(const QString& error)
+{
+    m_bar->Tell(error.contains(m_failure) ? error : error + u' ' + m_failure);
 }
 
 void ProjectWindow::ListCategories()

@@ -132,6 +132,7 @@ private:
 
     std::optional<QList<ValueEdit>> AskConflicts(const QList<Conflict>& conflicts);
     void OnCrossed(const Crossing& crossing);
+    void TellError(const QString& error);
 
     /// Does something, or later, when the message that asked for it is over. What fails is told in the bar.
     void Guarded(const std::function<void()>& step);
@@ -158,6 +159,7 @@ private:
     std::unique_ptr<OptionsTool> m_options;
     std::optional<ShownSchedule> m_schedule; ///< nothing while the selector is shown
     bool m_viewDone = false;                 ///< the view has told to unload it
+    QString m_failure;                       ///< why the last message but for errors was not answered
 };
 
 } // namespace schedules::host

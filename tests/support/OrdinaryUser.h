@@ -7,6 +7,15 @@
 
 namespace schedules::testing {
 
+constexpr uid_t kNobody = 65534;
+
+/// Makes this process someone's who may not read and write everything, for good.
+inline void BecomeOrdinaryUser()
+{
+    if (::getuid() == 0 && ::setuid(kNobody) != 0)
+        ::_exit(127);
+}
+
 /// Someone who may not read and write everything, as long as it lives.
 class OrdinaryUser
 {
@@ -16,8 +25,6 @@ public:
     Q_DISABLE_COPY_MOVE(OrdinaryUser)
 
 private:
-    static constexpr uid_t kNobody = 65534;
-
     uid_t m_before;
 };
 

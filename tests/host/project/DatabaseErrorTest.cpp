@@ -38,6 +38,7 @@ TEST(DatabaseError, OfAFileIsKnownByItsCode)
     EXPECT_EQ(Told("/plant", "x", "5"), "/plant is locked by another program; try again");
     EXPECT_EQ(Told("/plant", "x", "1032"), "/plant cannot be changed: it is read-only");
     EXPECT_EQ(Told("/plant", "disk I/O error", "778"), "/plant cannot be read or written: disk I/O error");
+    EXPECT_EQ(Told("/plant", "disk I/O error", "4874"), "/plant cannot be written: the disk is full");
     EXPECT_EQ(Told("/plant", "x", "13"), "/plant cannot be written: the disk is full");
     EXPECT_EQ(Told("/plant", "x", "11"), "/plant is damaged");
 }

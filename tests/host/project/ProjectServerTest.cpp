@@ -29,11 +29,6 @@ struct ProjectServer : StoredProject
     }
 };
 
-std::vector<Place> Servers()
-{
-    return TestServer().isEmpty() ? std::vector<Place>() : std::vector{Place::Server};
-}
-
 } // namespace
 
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(ProjectServer);

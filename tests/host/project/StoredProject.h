@@ -25,6 +25,12 @@ inline std::vector<Place> Places()
     return TestServer().isEmpty() ? std::vector{Place::File} : std::vector{Place::File, Place::Server};
 }
 
+/// For tests that need a server. There are none without one.
+inline std::vector<Place> Servers()
+{
+    return TestServer().isEmpty() ? std::vector<Place>() : std::vector{Place::Server};
+}
+
 inline std::string PlaceName(const ::testing::TestParamInfo<Place>& info)
 {
     return info.param == Place::Server ? "Server" : "File";

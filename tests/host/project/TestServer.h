@@ -2,6 +2,7 @@
 
 #include "host/project/Database.h"
 
+#include <QProcess>
 #include <QUuid>
 
 namespace schedules::host::testing {
@@ -10,6 +11,12 @@ namespace schedules::host::testing {
 inline QString TestServer()
 {
     return qEnvironmentVariable("SCHEDULES_TEST_SERVER");
+}
+
+/// Stops the server at once, as a power cut does, or starts it.
+inline bool TellTestServer(const QString& order)
+{
+    return QProcess::execute(qEnvironmentVariable("SCHEDULES_TEST_SERVER_CONTROL"), {order}) == 0;
 }
 
 /// An empty database on the server as long as it lives.
