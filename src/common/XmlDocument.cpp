@@ -1,6 +1,7 @@
 #include "common/XmlDocument.h"
 
 #include "common/Error.h"
+#include "common/Utf8.h"
 #include "common/XmlBounds.h"
 #include "common/XmlReader.h"
 
@@ -51,7 +52,7 @@ Object* Made(Object* object)
 
 QString FromXml(const xmlChar* text)
 {
-    return QString::fromUtf8(reinterpret_cast<const char*>(text));
+    return text ? FromUtf8(reinterpret_cast<const char*>(text)) : QString();
 }
 
 QString TakenFromXml(xmlChar* text)

@@ -90,6 +90,8 @@ public:
         xmlParseDocument(m_parser.get());
         if (m_exception)
             std::rethrow_exception(m_exception);
+        if (m_parser->errNo == XML_ERR_NO_MEMORY)
+            throw std::bad_alloc(); // else it would seem to be the document's fault
         return m_parser->wellFormed && m_parser->nsWellFormed && !m_refused;
     }
 
@@ -119,7 +121,7 @@ private:
     static void OnStart(void* context, const xmlChar* name, const xmlChar*, const xmlChar* uri, int declarationCount,
                         const xmlChar** declarations, int count, int, const xmlChar** attributes)
     {
-        if (Of(context).m_parser->nsNr > kMaxNamespacePlaces)
+        if (Of(context).m_parser->nsNr > kMaxNamespacePlaces || !Of(context).StandsAtEndOfTag())
             return Of(context).Refuse();
         Of(context).Guarded([&](XmlHandler& handler) {
             // The parser stands behind the attributes, which hold no "<".
@@ -144,6 +146,13 @@ private:
         Of(context).Guarded([&](XmlHandler& handler) {
             handler.CData({reinterpret_cast<const char*>(text), static_cast<std::size_t>(length)});
         });
+    }
+
+    /// At a control character the parser leaves off a tag, tells of it, and sees only then that it does not end there.
+    bool StandsAtEndOfTag() const
+    {
+        const std::string_view rest = m_text.substr(Offset());
+        return rest.starts_with('>') || rest.starts_with("/>");
     }
 
     std::size_t Offset() const { return static_cast<std::size_t>(xmlByteConsumed(m_parser.get())); }

@@ -181,8 +181,7 @@ void Interpreter::Write(QStringView text)
     case Destination::ColorTable:
         return WriteColors(text);
     case Destination::BulletText:
-        m_bulletText += text;
-        return;
+        return WriteBullet(text);
     case Destination::List:
         return;
     }
@@ -197,6 +196,14 @@ void Interpreter::WriteBody(QStringView text)
     if (!std::exchange(m_isMarked, true) && bullet != 0)
         m_builder.Add(m_tables.bullets.at(bullet) + u'\t', TheLook());
     m_builder.Add(text, TheLook());
+}
+
+/// Every paragraph of the list repeats its bullet, so what goes on is none.
+void Interpreter::WriteBullet(QStringView text)
+{
+    constexpr qsizetype kLongestBullet = 32;
+    if (m_bulletText.size() + text.size() <= kLongestBullet)
+        m_bulletText += text;
 }
 
 void Interpreter::WriteFontName(QStringView text)

@@ -63,6 +63,7 @@ private:
     void Write(QStringView text);
     void WriteBody(QStringView text);
     void WriteCharacter(char32_t code);
+    void WriteBullet(QStringView text);
     void WriteFontName(QStringView text);
     void WriteColors(QStringView text);
     void EndFontName();

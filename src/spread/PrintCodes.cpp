@@ -26,6 +26,15 @@ HeaderPart PartOf(QChar letter)
     return letter == u'c' ? HeaderPart::Center : HeaderPart::Right;
 }
 
+/// Half a character, which no text should have, would make the whole header one without codes.
+QString WholeCharacters(const QString& text)
+{
+    QString whole;
+    for (const char32_t character : text.toUcs4())
+        whole += QChar::fromUcs4(character);
+    return whole;
+}
+
 /// What moves a line on would leave the line that it is printed in.
 QString Printed(QString text)
 {
@@ -91,8 +100,9 @@ private:
 
 } // namespace
 
-std::vector<HeaderLine> ReadPrintCodes(const QString& codes)
+std::vector<HeaderLine> ReadPrintCodes(const QString& written)
 {
+    const QString codes = WholeCharacters(written);
     HeaderBuilder builder;
     qsizetype textStart = 0;
     auto matches = CodePattern().globalMatch(codes);

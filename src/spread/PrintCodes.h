@@ -48,7 +48,7 @@ struct HeaderLine
 ///     /l /c /r    what follows is the left, centre or right part of the line      /n  new line
 ///
 /// A "/" that starts none of these is text. A line starts in its left part; fonts go on over lines. What follows the
-/// last "/n" is a line only when there is something.
+/// last "/n" is a line only when there is something. Half a character is read as U+FFFD.
 std::vector<HeaderLine> ReadPrintCodes(const QString& codes);
 
 /// A text whose slashes `ReadPrintCodes` reads as nothing but slashes.

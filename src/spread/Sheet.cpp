@@ -1,5 +1,6 @@
 #include "spread/Sheet.h"
 
+#include "common/Utf8.h"
 #include "spread/TextMeasure.h"
 
 #include <QGuiApplication>
@@ -70,8 +71,7 @@ CellStore::Content Sheet::Content(Cell cell) const
 
 QString Sheet::Text(Cell cell) const
 {
-    const std::string_view text = Utf8(cell);
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    return FromUtf8(Utf8(cell));
 }
 
 void Sheet::SetText(Cell cell, const QString& text)

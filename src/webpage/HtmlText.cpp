@@ -1,7 +1,8 @@
 #include "webpage/HtmlText.h"
 
+#include "common/Utf8.h"
+
 #include <QChar>
-#include <QString>
 
 #include <algorithm>
 #include <array>
@@ -51,13 +52,13 @@ void AppendWithCare(std::string& html, char32_t character)
         html += "&quot;";
         return;
     default:
-        html += QString::fromUcs4(&character, 1).toStdString();
+        html += QStringView(QChar::fromUcs4(character)).toUtf8().toStdString();
     }
 }
 
 void AppendWithCare(std::string& html, std::string_view utf8)
 {
-    for (const char32_t character : QString::fromUtf8(utf8.data(), std::ssize(utf8)).toUcs4())
+    for (const char32_t character : FromUtf8(utf8).toUcs4())
         AppendWithCare(html, IsFit(character) ? character : U'\uFFFD');
 }
 

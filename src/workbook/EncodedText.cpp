@@ -1,6 +1,6 @@
 #include "workbook/EncodedText.h"
 
-#include <QString>
+#include "common/Utf8.h"
 
 #include <algorithm>
 
@@ -10,7 +10,7 @@ EncodedText Encoded(std::string_view utf8)
 {
     if (std::ranges::all_of(utf8, [](unsigned char byte) { return byte < 0x80; }))
         return {.wide = false, .bytes = std::string(utf8)};
-    const QString text = QString::fromUtf8(utf8.data(), std::ssize(utf8));
+    const QString text = FromUtf8(utf8);
     if (std::ranges::all_of(text, [](QChar unit) { return unit.unicode() < 0x100; }))
         return {.wide = false, .bytes = text.toLatin1().toStdString()};
     return {.wide = true,

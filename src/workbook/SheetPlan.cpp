@@ -1,6 +1,7 @@
 #include "workbook/SheetPlan.h"
 
 #include "common/Error.h"
+#include "common/Utf8.h"
 
 #include <QFontInfo>
 
@@ -15,7 +16,7 @@ namespace {
 
 qsizetype UnitsOf(std::string_view utf8)
 {
-    return QString::fromUtf8(utf8.data(), std::ssize(utf8)).size();
+    return FromUtf8(utf8).size();
 }
 
 } // namespace

@@ -45,6 +45,19 @@ std::string WrittenIn(const QByteArray& document, bool (*read)(const QByteArray&
 
 } // namespace
 
+TEST(WrittenAttributes, ATagThatBreaksOffIsNotTold)
+{
+    for (const char* document : {"<a xmlns:p='u' b='1' \x07 c='2'/>",
+                                 "<a xmlns:p='u' \x01"
+                                 "b='1'>",
+                                 "<a xmlns:p='u' b='1' \x1F/>"})
+    {
+        Writing handler(document);
+        EXPECT_FALSE(ReadXml(document, handler));
+        EXPECT_EQ(handler.lines.join(u'\n').toStdString(), "") << document;
+    }
+}
+
 TEST(WrittenAttributes, StandInTheirOrder)
 {
     EXPECT_EQ(WrittenIn("<a z='1' b='2' y='3' Z='4'/>"), "a: z=1|b=2|y=3|Z=4");

@@ -89,6 +89,13 @@ TEST(XmlDocument, ChildrenComeInOrderWithTheirKinds)
     EXPECT_EQ(kinds, (std::vector{Kind::Text, Kind::Element, Kind::Comment, Kind::Instruction, Kind::CData}));
 }
 
+TEST(XmlDocument, AByteOrderMarkAtTheStartOfAPieceBelongsToIt)
+{
+    const XmlDocument document = Parsed("<a b='\uFEFFc'>\uFEFFd</a>");
+    EXPECT_EQ(document.Root().Attribute("b").toStdString(), "\uFEFFc");
+    EXPECT_EQ(document.Root().FirstText().toStdString(), "\uFEFFd");
+}
+
 TEST(XmlDocument, WhiteSpaceAloneIsNoNode)
 {
     const auto document = Parsed("<a> \n<b>  </b>\t<c> x </c>\r\n</a>");

@@ -166,6 +166,16 @@ TEST(LargeRichText, IsReadInTime)
         EXPECT_LT(MillisecondsToRead("{\\rtf1 " + Repeated(text, kSize / qstrlen(text))), kLimit) << text;
 }
 
+TEST(LargeRichText, RepeatsNoLongBulletInEachParagraph)
+{
+    const auto list = [](qsizetype length) {
+        return "{\\*\\pn\\pnlvlblt{\\pntxtb " + Repeated("x", length) + "}}a\\par b";
+    };
+    const QString longest = Repeated("x", 32) + QChar(0x2192);
+    EXPECT_EQ(QString::fromStdString(Shown(list(32))), longest + "a\n" + longest + 'b');
+    EXPECT_EQ(QString::fromStdString(Shown(list(33))), QString::fromUtf8("\u2022\u2192a\n\u2022\u2192b"));
+}
+
 TEST(MutatedRichText, NeverFails)
 {
     std::mt19937 random(20'240'229);

@@ -75,6 +75,17 @@ TEST(PrintCodes, ASlashThatStartsNoCodeIsText)
     EXPECT_EQ(Drawn("/fn\"never closed"), "- l[/fn\"never closed: Arial 10]");
 }
 
+TEST(PrintCodes, HalfACharacterIsReplacedAndSpoilsNoCode)
+{
+    EXPECT_EQ(Drawn(QStringLiteral("/ca") + QChar(0xDC00) + QStringLiteral("/nb")),
+              "- c[a\uFFFD: Arial 10]\n- l[b: Arial 10]");
+}
+
+TEST(PrintCodes, AByteOrderMarkAtTheStartIsText)
+{
+    EXPECT_EQ(Drawn(QChar(0xFEFF) + QStringLiteral("a")), "- l[\uFEFFa: Arial 10]");
+}
+
 TEST(PrintCodes, CodesAreLowerCase)
 {
     EXPECT_EQ(Drawn("I/O, N/A, /C"), "- l[I/O, N/A, /C: Arial 10]");

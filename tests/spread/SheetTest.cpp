@@ -89,6 +89,12 @@ TEST_F(SheetTest, StartsEmpty)
     EXPECT_TRUE(sheet.Repainting());
 }
 
+TEST_F(SheetTest, KeepsAByteOrderMarkAtTheStartOfAText)
+{
+    sheet.SetText(At(1, 1), Text("x\uFEFF").right(1) + Text("y"));
+    EXPECT_EQ(sheet.Text(At(1, 1)).toStdString(), "\uFEFFy");
+}
+
 TEST_F(SheetTest, LinesAreRows)
 {
     Adopt(TableOf({{"Tag", "Flow"}, {"P-1", "12"}, {"P-2"}}));

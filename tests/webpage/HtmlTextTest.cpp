@@ -10,6 +10,7 @@ TEST(HtmlText, APlainTextStaysAsItIs)
     EXPECT_EQ(HtmlOf("P-101A 12.5 'x'"), "P-101A 12.5 'x'");
     EXPECT_EQ(HtmlOf("насос Ölpumpe 备用 m³/h °C 𝄞 �"), "насос Ölpumpe 备用 m³/h °C 𝄞 �");
     EXPECT_EQ(HtmlOf("two\r\nlines\tand a tab"), "two\r\nlines\tand a tab");
+    EXPECT_EQ(HtmlOf("\uFEFFx"), "\uFEFFx") << "a byte-order mark belongs to the text";
 }
 
 TEST(HtmlText, WhatMarksUpIsEscaped)

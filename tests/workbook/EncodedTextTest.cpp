@@ -18,3 +18,10 @@ TEST(EncodedText, OtherTextsAreTwoBytesAUnit)
     EXPECT_EQ(Encoded("aя").bytes, std::string("a\0\x4F\x04", 4));
     EXPECT_EQ(Encoded("𝄞").Units(), 2u);
 }
+
+TEST(EncodedText, AByteOrderMarkAtTheStartBelongsToTheText)
+{
+    EXPECT_EQ(Encoded("\uFEFFa").bytes, std::string("\xFF\xFE"
+                                                    "a\0",
+                                                    4));
+}
