@@ -6,6 +6,9 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <cerrno>
+#include <unistd.h>
+
 namespace schedules::host {
 
 namespace {
@@ -31,6 +34,12 @@ void WriteAll(QFileDevice& file, const QString& fileName, QByteArrayView content
         Fail(fileName, file);
 }
 
+/// File systems that cannot be asked to write at once are content with what they have taken.
+bool Synchronized(int handle)
+{
+    return ::fsync(handle) == 0 || errno == EINVAL || errno == ENOTSUP;
+}
+
 bool IsDevice(const QString& fileName)
 {
     const QFileInfo info(fileName);
@@ -47,6 +56,8 @@ void ReplaceFile(const QString& fileName, const QByteArray& content)
     }
     QSaveFile file(fileName);
     WriteAll(file, fileName, content);
+    if (!Synchronized(file.handle()))
+        throw HostError(QStringLiteral("cannot write %1: %2").arg(fileName, qt_error_string(errno)));
     if (!file.commit())
         Fail(fileName, file);
 }

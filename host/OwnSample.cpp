@@ -5,6 +5,7 @@
 #include "host/import/SampleProject.h"
 #include "host/project/DataFolder.h"
 #include "host/project/Project.h"
+#include "host/project/ProjectFile.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -68,10 +69,9 @@ QString OwnProject()
         return own;
     // It gets its name when it is complete, so that a start that was cut short leaves none.
     const QString unfinished = OwnPath(QStringLiteral("unfinished.schedules"));
-    QFile::remove(unfinished);
-    FillWithSample(*Project::Create(unfinished));
-    if (!QFile::rename(unfinished, own))
-        throw HostError(QStringLiteral("cannot make %1").arg(own));
+    RemoveProjectFile(unfinished);
+    NewProject(unfinished, FillWithSample);
+    RenameProjectFile(unfinished, own);
     return own;
 }
 

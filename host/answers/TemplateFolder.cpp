@@ -192,9 +192,12 @@ void TemplateFolder::RemoveGone(const QStringList& listed)
 void TemplateFolder::ReadMemory()
 {
     QFile file(MemoryFile());
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.exists())
         return; // nothing was laid out yet; files that are there already are then changed ones
-    const QJsonObject memory = QJsonDocument::fromJson(file.readAll()).object();
+    const QByteArray text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    if (file.error() != QFileDevice::NoError)
+        throw HostError(QStringLiteral("cannot read %1: %2").arg(file.fileName(), file.errorString()));
+    const QJsonObject memory = QJsonDocument::fromJson(text).object();
     for (auto entry = memory.begin(); entry != memory.end(); ++entry)
         m_laidOut.insert(entry.key(), entry.value().toString());
 }

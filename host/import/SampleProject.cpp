@@ -4,6 +4,7 @@
 #include "host/import/Import.h"
 #include "host/project/DataFolder.h"
 #include "host/project/Project.h"
+#include "host/project/ProjectFile.h"
 #include "host/project/TemplateListXml.h"
 
 #include <QDir>
@@ -62,9 +63,10 @@ std::unique_ptr<Project> NewProject(const QString& address, const std::function<
     try {
         fill(*project);
     } catch (...) {
-        const QString file = project->Address().File();
+        const ProjectAddress made = project->Address();
         project.reset();
-        QFile::remove(file);
+        if (!made.OnServer())
+            RemoveProjectFile(made.File());
         throw;
     }
     return project;

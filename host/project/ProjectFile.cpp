@@ -37,6 +37,19 @@ void RequireProjectFile(const QString& path)
         throw HostError(QStringLiteral("%1 is damaged").arg(path));
 }
 
+void RemoveProjectFile(const QString& path)
+{
+    for (const char* ending : {"", "-journal", "-wal", "-shm"})
+        QFile::remove(path + QLatin1String(ending));
+}
+
+void RenameProjectFile(const QString& path, const QString& name)
+{
+    // On a disk that is full what was stored last stays in the journal, which belongs to the name.
+    if (QFileInfo::exists(path + QStringLiteral("-wal")) || !QFile::rename(path, name))
+        throw HostError(QStringLiteral("cannot make %1").arg(name));
+}
+
 NewFile::NewFile(const QString& path) : m_path(path)
 {
     if (QFileInfo::exists(path))
@@ -48,10 +61,8 @@ NewFile::NewFile(const QString& path) : m_path(path)
 
 NewFile::~NewFile()
 {
-    if (m_kept)
-        return;
-    for (const char* ending : {"", "-journal", "-wal", "-shm"})
-        QFile::remove(m_path + QLatin1String(ending));
+    if (!m_kept)
+        RemoveProjectFile(m_path);
 }
 
 } // namespace schedules::host

@@ -16,6 +16,13 @@ bool BeginsAsDatabase(const QString& path);
 /// of this process have on it.
 void RequireProjectFile(const QString& path);
 
+/// Takes a database away that nobody has open, with what was kept beside it.
+void RemoveProjectFile(const QString& path);
+
+/// Gives a database that nobody has open another name, which is free. Throws `HostError` when that cannot be done
+/// without losing a part of it.
+void RenameProjectFile(const QString& path, const QString& name);
+
 /// A file that is made empty, and taken away again unless it is kept.
 class NewFile
 {

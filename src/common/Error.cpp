@@ -59,4 +59,9 @@ void ReportError(UserInterface& userInterface, const Error& error, const QString
     IgnoringErrors([&] { ReportMessage(userInterface, {error.Description(), kExclamation, source}); });
 }
 
+void ReportCurrentError(UserInterface& userInterface, QualifiedName source) noexcept
+{
+    IgnoringErrors([&] { ReportError(userInterface, CurrentError(), source); });
+}
+
 } // namespace schedules

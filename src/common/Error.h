@@ -81,6 +81,10 @@ void ReportMessage(UserInterface& userInterface, const MessageBox& box) noexcept
 /// The same for an error, with its description.
 void ReportError(UserInterface& userInterface, const Error& error, const QString& source) noexcept;
 
+/// The same for the exception that is being handled: only to be called inside a `catch`. Never throws, even when there
+/// is no memory left to tell of it.
+void ReportCurrentError(UserInterface& userInterface, QualifiedName source) noexcept;
+
 /// Runs `body` and returns what it returns. Whatever it throws is told to the shared reporter, and the result is then
 /// `fallback`.
 template <class Result, std::invocable Body>
@@ -89,7 +93,7 @@ Result Reported(UserInterface& userInterface, QualifiedName source, Result fallb
     try {
         return std::invoke(body);
     } catch (...) {
-        ReportError(userInterface, CurrentError(), source);
+        ReportCurrentError(userInterface, source);
         return fallback;
     }
 }

@@ -184,8 +184,10 @@ void Copy(const QString& fileName, QFileDevice& target)
     QFile source(fileName);
     if (!source.open(QFile::ReadOnly))
         throw Error(kFileNotWrittenError, source.errorString());
-    while (!source.atEnd())
-        WriteAll(target, source.read(kChunk));
+    for (QByteArray chunk = source.read(kChunk); !chunk.isEmpty(); chunk = source.read(kChunk))
+        WriteAll(target, chunk);
+    if (source.error() != QFileDevice::NoError)
+        throw Error(kFileNotWrittenError, source.errorString());
 }
 
 } // namespace
@@ -198,7 +200,7 @@ void WriteXlsx(const Sheet& sheet, const QString& sheetName, const QString& file
         throw Error(kFileNotWrittenError, folder.errorString());
     const QString whole = folder.filePath(QStringLiteral("whole.xlsx"));
     WriteBook(sheet, sheetName, direction, folder.path(), whole);
-    if (!IsWholeXlsx(whole))
+    if (!IsWholeXlsx(whole, qint64(sheet.ColumnCount()) * sheet.RowCount()))
         throw Error(kFileNotWrittenError, QStringLiteral("%1: The workbook is not whole.").arg(folder.path()));
     ReplaceFile(fileName, [&](QFileDevice& file) { Copy(whole, file); });
 }

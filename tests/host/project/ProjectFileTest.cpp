@@ -1,3 +1,5 @@
+#include "host/project/ProjectFile.h"
+
 #include "StoredProject.h"
 #include "support/FileSizeLimit.h"
 #include "support/OrdinaryUser.h"
@@ -197,6 +199,29 @@ TEST_F(ProjectFile, LookingAtAFileDoesNotEndTheLocksOfThisProgram)
     EXPECT_TRUE(Files().contains("plant.schedules-wal"));
     project->SetLanguage("fr");
     EXPECT_EQ(Project::Open(Path())->Language(), "fr");
+}
+
+TEST_F(ProjectFile, KeepsItsNameWhilePartOfItLiesBesideIt)
+{
+    {
+        const auto open = Project::Open(Plant());
+        open->SetLanguage("de");
+        EXPECT_EQ(Failure([&] { RenameProjectFile(Path(), Path("other.schedules")); }),
+                  "cannot make " + Path("other.schedules").toStdString());
+    }
+    RenameProjectFile(Path(), Path("other.schedules"));
+    EXPECT_EQ(Files(), QStringList{"other.schedules"});
+    EXPECT_EQ(Project::Open(Path("other.schedules"))->Language(), "de");
+}
+
+TEST_F(ProjectFile, GoesWithAllThatLiesBesideIt)
+{
+    const QString path = Plant();
+    for (const char* ending : {"-journal", "-wal", "-shm"})
+        Written("plant.schedules" + QString(ending), "left");
+    Written("other.schedules", "mine");
+    RemoveProjectFile(path);
+    EXPECT_EQ(Files(), QStringList{"other.schedules"});
 }
 
 TEST_F(ProjectFile, WhatWasSavedIsWrittenToTheDiskBeforeTheCallReturns)

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <limits>
+
+namespace schedules::testing {
+
+/// While it lives, one of the allocations of this process fails, or all from one on, whether our own code asks for it
+/// or Qt's core, the C++ library or libxml2 for our code. What Qt's windows and fonts ask for does not fail: they do
+/// not look whether they get it.
+class FailingMemory
+{
+public:
+    enum class Lasting
+    {
+        Once,
+        FromThenOn
+    };
+
+    /// `successes` is how many allocations succeed before.
+    explicit FailingMemory(int successes, Lasting lasting = Lasting::Once);
+    ~FailingMemory();
+
+    FailingMemory(const FailingMemory&) = delete;
+    FailingMemory& operator=(const FailingMemory&) = delete;
+
+    /// How many allocations there were, failed ones included.
+    int Allocations() const;
+
+    /// Whether one has failed.
+    bool HasFailed() const;
+};
+
+/// None fails: for counting them.
+constexpr int kEnoughMemory = std::numeric_limits<int>::max();
+
+} // namespace schedules::testing

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <map>
+#include <string>
+
+namespace schedules::host::testing {
+
+/// The files below a folder by their names, byte for byte. The names of folders end in a slash.
+using FolderFiles = std::map<QString, QByteArray>;
+
+FolderFiles FilesIn(const QString& folder);
+
+/// Makes them all that is in the folder.
+void Restore(const QString& folder, const FolderFiles& files);
+
+/// The same as texts that are equal whenever two files hold the same. Of a project another connection tells it, of a
+/// PDF and an .xlsx another program, since they hold the time; other files are their bytes. What is no such file is
+/// "damaged".
+std::map<std::string, std::string> DrawnFilesIn(const QString& folder);
+
+} // namespace schedules::host::testing

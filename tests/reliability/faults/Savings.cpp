@@ -1,0 +1,281 @@
+#include "Saving.h"
+#include "host/HostError.h"
+#include "host/LoadedTool.h"
+#include "host/OptionsTool.h"
+#include "host/OptionsUser.h"
+#include "host/Picture.h"
+#include "host/TemplateFiles.h"
+#include "host/TemplateFolderFiles.h"
+#include "host/XmlFile.h"
+#include "host/answers/SmallProject.h"
+#include "host/answers/TemplateFolder.h"
+#include "host/import/SampleProject.h"
+#include "host/project/StoredProject.h"
+#include "support/ModalDialog.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QTest>
+
+#include <algorithm>
+
+namespace schedules::host::testing {
+
+namespace {
+
+using schedules::testing::OnceModal;
+
+void Write(const QString& fileName, const QByteArray& content)
+{
+    QFile file(fileName);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << qPrintable(fileName);
+    file.write(content);
+}
+
+/// The line of the failure of a step; empty when there is none.
+template <typename Step>
+QString FailureOf(Step step)
+{
+    try {
+        step();
+    } catch (const HostError& error) {
+        return error.Line();
+    }
+    return {};
+}
+
+enum class Before
+{
+    Nothing,
+    AFile
+};
+
+/// A schedule in a file of some format.
+class Export : public Saving
+{
+public:
+    Export(const QString& format, Before before) : m_format(format), m_before(before) {}
+
+    void Prepare(const QString& folder) override
+    {
+        m_fileName = folder + "/schedule." + m_format;
+        if (m_before == Before::AFile)
+            Write(m_fileName, "what there was before");
+        m_tool.emplace(CommandLine(), ReadXmlFile(QStringLiteral(SCHEDULES_SOURCE_DIR "/samples/air-handling.xml")));
+    }
+
+    QString Save() override
+    {
+        if (m_format == "png")
+            return FailureOf([&] { WritePng(PictureOf(m_tool->Tool().Widget(), "Air"), m_fileName); });
+        if (m_format == "pdf")
+            return m_tool->Tool().WritePdf(m_fileName, true, QPageSize::A4);
+        return m_tool->Tool().WriteFile(m_format, m_fileName);
+    }
+
+private:
+    QString m_format;
+    Before m_before;
+    QString m_fileName;
+    std::optional<LoadedTool> m_tool;
+};
+
+/// The edited schedule that a host keeps in a file.
+class EditedSchedule : public Saving
+{
+public:
+    void Prepare(const QString& folder) override
+    {
+        m_fileName = folder + "/schedule.xml";
+        m_text = ReadXmlFile(QStringLiteral(SCHEDULES_SOURCE_DIR "/samples/pumps.xml"));
+        Write(m_fileName, m_text.toUtf8());
+        m_text.replace("<TD", "<TD Dirty='-1'");
+    }
+
+    QString Save() override
+    {
+        return FailureOf([&] { WriteXmlFile(m_fileName, m_text); });
+    }
+
+private:
+    QString m_fileName;
+    QString m_text;
+};
+
+/// A template that was edited in the options editor, between a host's files and a user.
+class EditedTemplate : public Saving
+{
+public:
+    void Prepare(const QString& folder) override
+    {
+        EXPECT_TRUE(QDir(folder).mkdir("templates"));
+        Write(folder + "/templates/Pumps.xml", kPumpTemplate);
+        Write(folder + "/templates/Fans.xml", kFanTemplate);
+        Write(folder + "/list.xml", kTemplateList);
+        Write(folder + "/categories.xml", kCategoryList);
+        m_session.emplace(CommandLine());
+        m_files.emplace(m_session->Router(), TemplatePlaces{folder + "/templates", folder + "/list.xml",
+                                                            folder + "/categories.xml", "Pumps.xml"});
+        Edit();
+        QObject::connect(&m_session->Router(), &HostRouter::Crossed, &m_session->Router(),
+                         [this](const Crossing& crossing) { m_told += host::FailureOf(crossing); });
+    }
+
+    QString Save() override
+    {
+        Press();
+        return m_told + m_user.TakeReports().join('\n');
+    }
+
+protected:
+    OptionsTool& Editor() { return *m_editor; }
+
+private:
+    void Edit()
+    {
+        m_editor.emplace(m_session->Router(), &m_user);
+        m_editor->Widget().show();
+        m_editor->Open();
+        OptionsUser(*m_editor).SelectGroup("Motor");
+        auto* groups = m_editor->Widget().findChild<QAbstractItemView*>("lstGroups");
+        QTest::keyClick(groups, Qt::Key_Space);
+        EXPECT_TRUE(m_editor->HasUnsavedEdits());
+        EXPECT_EQ(m_user.TakeReports(), QStringList());
+    }
+
+    virtual void Press() { EXPECT_TRUE(m_editor->PressApply()); }
+
+    ConsoleUserInterface m_user;
+    QString m_told;
+    std::optional<Session> m_session;
+    std::optional<TemplateFiles> m_files;
+    std::optional<OptionsTool> m_editor;
+};
+
+/// The same under a name of its own.
+class NewTemplate : public EditedTemplate
+{
+    void Press() override
+    {
+        OnceModal<QDialog>([](QDialog& dialog) {
+            OnceModal<QDialog>([](QDialog& again) { again.reject(); }); // where the name cannot be used
+            QTest::keyClicks(dialog.findChild<QLineEdit*>("Text1"), "Night");
+            QTest::keyClick(dialog.findChild<QLineEdit*>("Text1"), Qt::Key_Return);
+        });
+        Editor().Widget().findChild<QAbstractButton*>("cmdSaveAs")->click();
+    }
+};
+
+/// Something done with a project in a file, as by another start of the program.
+class ProjectSaving : public Saving
+{
+public:
+    using Step = std::function<void(Project& project, const QString& folder)>;
+
+    ProjectSaving(Step before, Step step) : m_before(std::move(before)), m_step(std::move(step)) {}
+
+    void Prepare(const QString& folder) override
+    {
+        m_folder = folder;
+        const auto project = Project::Create(Address());
+        project->Put(SmallPlant());
+        m_before(*project, folder);
+    }
+
+    QString Save() override
+    {
+        return FailureOf([&] { m_step(*Project::Open(Address()), m_folder); });
+    }
+
+private:
+    QString Address() const { return m_folder + "/plant.schedules"; }
+
+    Step m_before;
+    Step m_step;
+    QString m_folder;
+};
+
+class ProjectMade : public Saving
+{
+public:
+    void Prepare(const QString& folder) override { m_address = folder + "/plant.schedules"; }
+
+    QString Save() override
+    {
+        return FailureOf([&] { NewProject(m_address, [](Project& project) { project.Put(SmallPlant()); }); });
+    }
+
+    bool MayStayUnfinished() const override { return true; }
+
+private:
+    QString m_address;
+};
+
+const QString kDesign = "Design/Flow";
+const TemplateEntry kDay{.name = "Day", .fileName = "Day.xml", .category = "PUMPS"};
+const TemplateEntry kNight{.name = "Night", .fileName = "Night.xml", .category = "PUMPS"};
+
+void NothingElse(Project&, const QString&) {}
+
+void SaveValues(Project& project, const QString&)
+{
+    project.Save({{"P-1", kDesign, "13", 1}, {"P-1", "Design/Head", "50", 1}, {"P-2", "Design/Head", "51", 0}});
+}
+
+void ListDay(Project& project, const QString&)
+{
+    project.MergeTemplates({}, {kDay}, {{"Day.xml", TemplateWith("Day", {kDesign})}});
+}
+
+void ListNight(Project& project, const QString&)
+{
+    project.MergeTemplates({kDay}, {kNight, kDay}, {{"Night.xml", TemplateWith("Night", {kDesign})}});
+}
+
+void LayOut(Project& project, const QString& folder)
+{
+    TemplateFolder(project, folder + "/templates").LayOut();
+}
+
+void LayOutDay(Project& project, const QString& folder)
+{
+    ListDay(project, folder);
+    LayOut(project, folder);
+    project.MergeTemplates(
+        {kDay}, {kDay, kNight},
+        {{"Day.xml", TemplateWith("Day", {"Design/Head"})}, {"Night.xml", TemplateWith("Night", {kDesign})}});
+}
+
+template <class Kind, class... Arguments>
+std::function<std::unique_ptr<Saving>()> Made(Arguments... arguments)
+{
+    return [=] { return std::make_unique<Kind>(arguments...); };
+}
+
+} // namespace
+
+std::vector<SavingKind> AllSavings()
+{
+    std::vector<SavingKind> all{{"Template", Made<EditedTemplate>()},
+                                {"NewTemplate", Made<NewTemplate>()},
+                                {"EditedSchedule", Made<EditedSchedule>()},
+                                {"Values", Made<ProjectSaving>(NothingElse, SaveValues)},
+                                {"TemplateList", Made<ProjectSaving>(ListDay, ListNight)},
+                                {"TemplateFolder", Made<ProjectSaving>(LayOutDay, LayOut)},
+                                {"NewProject", Made<ProjectMade>()}};
+    for (const char* format : {"xls", "xlsx", "csv", "html", "pdf", "png"}) {
+        all.push_back({format, Made<Export>(QString(format), Before::AFile)});
+        all.push_back({std::string("New_") + format, Made<Export>(QString(format), Before::Nothing)});
+    }
+    return all;
+}
+
+SavingKind SavingNamed(const std::string& name)
+{
+    const auto all = AllSavings();
+    return *std::ranges::find(all, name, &SavingKind::name);
+}
+
+} // namespace schedules::host::testing

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QString>
+
+#include <array>
+#include <optional>
+#include <string>
+
+namespace schedules::testing {
+
+/// What a process does with files.
+enum class FileOperation
+{
+    Open, ///< or makes a file or a folder
+    List, ///< opens a folder to see what is in it, perhaps to take it away
+    Read,
+    Write,
+    Flush, ///< to the disk
+    Rename,
+    Delete,
+    Truncate,
+    Close,
+    Any
+};
+
+/// How often each operation was done, by its number.
+using FileCounts = std::array<int, static_cast<int>(FileOperation::Any) + 1>;
+
+/// What goes wrong with one file operation.
+struct FileFault
+{
+    enum class Kind
+    {
+        Once,
+        FromThenOn, ///< all further ones of its kind fail, too; the first write that does is cut short instead
+        Killed      ///< the process ends before it
+    };
+
+    FileOperation operation = FileOperation::Any;
+    int index = 0; ///< among the operations of its kind, from 0
+    int code = 0;  ///< the system's number of the error
+    Kind kind = Kind::Once;
+};
+
+/// "write 3: No space left on device, from then on"
+std::string Drawn(const FileFault& fault);
+
+/// Sees what this process does with files below a folder from now on, whichever library does it, and makes one of the
+/// operations go wrong. False when this system cannot.
+///
+/// The kernel itself hands the calls over, so that nothing is missed, such as what the C library's streams do. It does
+/// so until the process ends, and no program that is started meanwhile survives it: only for an `OwnProcess`.
+bool WatchFiles(const QString& folder, const std::optional<FileFault>& fault = {});
+
+/// What has been seen so far.
+FileCounts SeenOperations();
+
+} // namespace schedules::testing
