@@ -4,6 +4,8 @@
 #include "common/StringNumbers.h"
 #include "common/modResource.h"
 
+#include <QPointer>
+
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -102,7 +104,10 @@ bool CSchedule::LoadScheduleData(const QString& xml)
     return Reported(m_userInterface, kSource.In(__func__), false, [&] {
         RequireSheet();
         ResetFilledSheet();
+        const QPointer<Sheet> alive(m_sched);
         const bool loaded = LoadXmlIntoSpreadSheet(xml);
+        if (!alive)
+            return false;
         SchedAutoSize();
         AutoSizeRowHeader();
         SchedFormatData(1);
@@ -116,7 +121,10 @@ bool CSchedule::LoadSelectionData(const QString& xml, bool selectAllTags)
 {
     return Reported(m_userInterface, kSource.In(__func__), false, [&] {
         RequireSheet();
+        const QPointer<Sheet> alive(m_sched);
         const bool loaded = LoadXmlIntoSpreadSheet(xml);
+        if (!alive)
+            return false;
         if (loaded)
             TickCheckBoxes(selectAllTags);
         SchedAutoSize();
@@ -149,16 +157,22 @@ void CSchedule::ResetSheet()
 bool CSchedule::LoadXmlIntoSpreadSheet(const QString& xml)
 {
     return Reported(m_userInterface, kSource.In(__func__), false, [&] {
-        const BusyPointer busy(m_userInterface);
-        ParsedTable parsed = ParseScheduleTable(xml);
-        if (parsed.fault != TableFault::None) {
-            const int number = MessageNumberOf(parsed.fault);
-            m_userInterface.Show({LoadResString(number), kOkOnly, {}, number});
-            return false;
-        }
-        PlaceTable(std::move(parsed.table));
-        return true;
+        const TableFault fault = TakeTable(xml);
+        if (fault == TableFault::None)
+            return true;
+        const int number = MessageNumberOf(fault);
+        m_userInterface.Show({LoadResString(number), kOkOnly, {}, number});
+        return false;
     });
+}
+
+TableFault CSchedule::TakeTable(const QString& xml)
+{
+    const BusyPointer busy(m_userInterface);
+    ParsedTable parsed = ParseScheduleTable(xml);
+    if (parsed.fault == TableFault::None)
+        PlaceTable(std::move(parsed.table));
+    return parsed.fault;
 }
 
 void CSchedule::PlaceTable(ScheduleTable table)

@@ -17,7 +17,8 @@ namespace schedules {
 /// The schedule grid engine: fills a sheet from the XML of a schedule table, lays it out and prints it.
 ///
 /// A failed load shows a message, leaves the sheet as it was after the reset, and returns false. Unexpected failures
-/// are told to the shared reporter; nothing is thrown.
+/// are told to the shared reporter; nothing is thrown. Whoever shows such a message may delete the sheet meanwhile, and
+/// the engine with it.
 class CSchedule
 {
 public:
@@ -156,6 +157,7 @@ private:
     void RequireSheet() const;
 
     bool LoadXmlIntoSpreadSheet(const QString& xml);
+    TableFault TakeTable(const QString& xml);
     void PlaceTable(ScheduleTable table);
     void ApplyRow(const RowAttributes& row);
     void ApplyHeader(int index, const HeaderAttributes& header);

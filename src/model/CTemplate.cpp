@@ -1,6 +1,7 @@
 #include "model/CTemplate.h"
 
 #include "common/Blanks.h"
+#include "common/FilePath.h"
 #include "common/StringNumbers.h"
 #include "common/modResource.h"
 #include "model/Inside.h"
@@ -59,6 +60,12 @@ QString PathOf(const QString& folder, const QString& file)
     return trimmed.endsWith(u'\\') ? trimmed + file : trimmed + u'\\' + file;
 }
 
+/// Whether there is such a file in the folder. A name that leads out of it is none of a file in it.
+bool HoldsFile(const QString& folder, const QString& file)
+{
+    return PlaceInside(TrimmedOfBlanks(folder), PathOf(folder, file)).has_value();
+}
+
 } // namespace
 
 CTemplate::CTemplate(UserInterface& userInterface)
@@ -90,7 +97,7 @@ bool CTemplate::XMLToObject()
 {
     const QualifiedName source = kSource.In(__func__);
     return Reported(m_userInterface, source, false, [&] {
-        if (m_filename.isEmpty() || m_filePath.isEmpty())
+        if (m_filename.isEmpty() || m_filePath.isEmpty() || !HoldsFile(m_filePath, m_filename))
             return false;
         const auto text = ReadTemplateFile(PathOf(m_filePath, m_filename));
         if (!text)
@@ -120,6 +127,8 @@ void CTemplate::Read(const TemplateText& text)
 
 bool CTemplate::FileDiffers() const
 {
+    if (!HoldsFile(m_filePath, m_filename))
+        return false;
     const auto mark = FileMark(PathOf(m_filePath, m_filename));
     return mark && mark != m_fileMark;
 }

@@ -32,7 +32,7 @@ public:
     const QString& FilePath() const { return m_filePath; }
     void SetFilePath(const QString& filePath) { m_filePath = filePath; }
 
-    /// The name of the file in that folder.
+    /// The name of the file in that folder. One that leads out of it, by ".." or by a link, is that of no file.
     const QString& Filename() const { return m_filename; }
     void SetFilename(const QString& filename) { m_filename = filename; }
 

@@ -54,9 +54,12 @@ void ToolControl::StartUp(IMsgRouter* router, const QString& owner, const char* 
         const QPointer<QWidget> alive(this);
         m_router = router;
         m_owner = owner;
-        if (!ObtainResourceModule() || !alive)
+        const bool hasModule = ObtainResourceModule();
+        RequireAlive(alive);
+        if (!hasModule)
             return;
         LoadControls(TypeName(), findChildren<QObject*>(), Ui());
+        RequireAlive(alive);
         SendRequestToOwner(Request(QString::fromLatin1(announcement), {QString()}));
         if (alive)
             TraceProcedure("IToolUI_Initialize");

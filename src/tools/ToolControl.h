@@ -60,6 +60,16 @@ protected:
         bool m_isGiven;
     };
 
+    /// Ends whatever was under way in a tool that the host has taken away meanwhile.
+    struct ToolGone
+    {
+    };
+    static void RequireAlive(const QPointer<QWidget>& alive)
+    {
+        if (!alive)
+            throw ToolGone();
+    }
+
     QString TypeName() const { return QLatin1String(m_typeName); }
 
     /// "Schedules.ctlSchedule.IToolUI_Activate" for "IToolUI_Activate".

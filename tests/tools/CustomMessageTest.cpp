@@ -146,4 +146,19 @@ TEST(CustomMessage, IsAsHighAsItsText)
     EXPECT_EQ(box.minimumSizeHint().height(), oneLine);
 }
 
+TEST(CustomMessage, BreaksBetweenWordsUnlessOneOfThemIsEndless)
+{
+    CustomMessage box;
+    box.Show({QStringLiteral("words and words").repeated(1000)});
+    EXPECT_EQ(box.wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
+    box.Show({QString(1000, u'W') + u' ' + QString(1000, u'W')});
+    EXPECT_EQ(box.wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
+    box.Show({QString(1001, u'W')});
+    EXPECT_EQ(box.wordWrapMode(), QTextOption::WrapAnywhere);
+    box.Show({kRich});
+    EXPECT_EQ(box.wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
+    box.Show({QStringLiteral("{\\rtf1 ") + QString(1001, u'W') + u'}'});
+    EXPECT_EQ(box.wordWrapMode(), QTextOption::WrapAnywhere);
+}
+
 } // namespace schedules

@@ -52,6 +52,24 @@ TEST_F(ToolbarDropDown, OpensWithDownAndAltDown)
     EXPECT_EQ(Clicks(), "Web page Web page");
 }
 
+TEST_F(ToolbarDropDown, AnEntryIsToldLikeAToolButWhenItsMenuIsDone)
+{
+    AddViewTools();
+    AddExportMenu();
+    bar->AddEntry(&exportMenu, QStringLiteral("entry"), QStringLiteral("Entry"));
+    Show();
+    std::string clicksInMenu = "no menu";
+    OpenedBy([this] { Press("btnExport", Qt::Key_Down); },
+             [&](QMenu& menu) {
+                 ClickEntry(menu, 2);
+                 clicksInMenu = Clicks();
+             });
+    EXPECT_EQ(clicksInMenu, "");
+    EXPECT_EQ(Clicks(), "entry");
+    exportMenu.actions().at(2)->trigger();
+    EXPECT_EQ(Clicks(), "entry entry") << "no menu is open";
+}
+
 TEST_F(ToolbarDropDown, DownOpensNothingOnAToolWithoutOne)
 {
     AddViewTools();

@@ -168,6 +168,21 @@ TEST_F(ScheduleCommands, TransposeExchangesTheFrozenCounts)
     EXPECT_EQ(Frozen(), "1 x 2");
 }
 
+TEST_F(ScheduleCommands, TransposeLeavesNoCellActiveThatTheFreshTableDoesNotHave)
+{
+    Start(kScheduleView, kSchedule);
+    TheSheet()->SetActiveCell({Column(2), Row(1)});
+    view.IToolUI_XML(kOtherSchedule);
+    Click("btnTranspose");
+    EXPECT_EQ(Grid(), " | V-1\nArea | 7");
+    EXPECT_EQ(TheSheet()->ActiveCell(), Cell());
+    Activate(kSchedule);
+    TheSheet()->SetActiveCell({Column(1), Row(1)});
+    view.IToolUI_XML(kBroken);
+    Click("btnTranspose");
+    EXPECT_EQ(TheSheet()->ActiveCell(), Cell());
+}
+
 TEST_F(ScheduleCommands, TransposeKeepsEdits)
 {
     Start(kScheduleView, kSchedule);

@@ -27,7 +27,7 @@ Result ctlSchedOptions::Guarded(const char* procedure, Result otherwise, Body&& 
     const QPointer<QWidget> alive(this);
     try {
         return std::invoke(body);
-    } catch (const EditorGone&) {
+    } catch (const ToolGone&) {
         throw;
     } catch (...) {
         RequireAlive(alive);
@@ -51,7 +51,7 @@ auto ctlSchedOptions::WhileActive(Question&& question)
     auto answer = std::invoke(question);
     RequireAlive(alive);
     if (isActive && !m_templates)
-        throw EditorGone();
+        throw ToolGone();
     return answer;
 }
 

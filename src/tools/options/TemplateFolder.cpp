@@ -54,18 +54,6 @@ bool IsForListing(const QString& name)
     return name.isValidUtf16() && std::ranges::all_of(name, [](QChar each) { return each < kFirstNonCharacter; });
 }
 
-/// The path at the end of all links; empty when there is none.
-QString ResolvedPath(const QString& path)
-{
-    std::error_code failure;
-    return QFile::decodeName(std::filesystem::canonical(SystemPath(path), failure).c_str());
-}
-
-bool IsInside(const QString& folder, const QString& place)
-{
-    return !folder.isEmpty() && place.startsWith(folder.endsWith(u'/') ? folder : folder + u'/');
-}
-
 [[noreturn]] void RefuseName()
 {
     throw Error(kSaveError, ComponentText("A file in the template folder cannot have this name."));
@@ -157,8 +145,7 @@ std::optional<QString> TemplateFolder::PlaceOf(const QString& fileName) const
     const QString path = PlatformPath(PathOf(fileName));
     if (!exists(StatusAt(path)))
         return path;
-    const QString place = ResolvedPath(path);
-    return IsInside(ResolvedPath(PathOf({})), place) ? std::optional(place) : std::nullopt;
+    return PlaceInside(PathOf({}), path);
 }
 
 } // namespace schedules

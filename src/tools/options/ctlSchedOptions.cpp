@@ -200,12 +200,6 @@ Answer ctlSchedOptions::Tell(const MessageBox& box)
     return WhileActive([&] { return Ui().Show(box); });
 }
 
-void ctlSchedOptions::RequireAlive(const QPointer<QWidget>& alive)
-{
-    if (!alive)
-        throw EditorGone();
-}
-
 QString ctlSchedOptions::GetAllTemplates()
 {
     return Guarded(__func__, QString(), [this] { return Ask(Request(u"GETTEMPLATELIST", {QString()})); });

@@ -53,11 +53,6 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    /// Ends whatever was under way in an editor that the host has deleted meanwhile.
-    struct EditorGone
-    {
-    };
-
     /// A template on its way into a file and the host's list.
     struct WrittenTemplate
     {
@@ -88,7 +83,6 @@ private:
     Result Guarded(const char* procedure, Result otherwise, Body&& body);
     template <std::invocable Body>
     void Guarded(const char* procedure, Body&& body);
-    static void RequireAlive(const QPointer<QWidget>& alive);
 
     // Asking the host and the user; these do not return into an editor that is gone, and all but `Reply` neither into
     // one that was deactivated meanwhile.

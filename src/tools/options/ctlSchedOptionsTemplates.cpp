@@ -35,7 +35,7 @@ QString EntryOf(const CTemplate& listed)
 /// Also a host that deactivates the editor in an answer ends what was under way.
 CTemplates& ctlSchedOptions::Catalogue() const
 {
-    return m_templates ? *m_templates : throw EditorGone();
+    return m_templates ? *m_templates : throw ToolGone();
 }
 
 void ctlSchedOptions::SelectByFile(const QString& fileName)

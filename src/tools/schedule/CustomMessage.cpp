@@ -7,6 +7,8 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
+#include <algorithm>
+
 namespace schedules {
 
 namespace {
@@ -14,6 +16,18 @@ namespace {
 // A text of this length is higher than any screen. Measuring it exactly would take its time, and change nothing.
 constexpr int kLongText = 400'000;
 constexpr int kHigherThanScreens = 10'000;
+
+// Finding the end of a longer run at each of its lines would take quadratic time.
+constexpr int kLongestRun = 1000;
+
+bool HasLongRun(const QString& text)
+{
+    int length = 0;
+    return std::ranges::any_of(text, [&](QChar each) {
+        length = each.isSpace() ? 0 : length + 1;
+        return length > kLongestRun;
+    });
+}
 
 Qt::Alignment AlignmentOf(int number)
 {
@@ -58,6 +72,7 @@ void CustomMessage::ShowPlain(const CustomMessageText& message)
     font.setItalic(message.italic);
     setFont(font);
     ShowDocument(NewDocument());
+    WrapFor(message.text);
     setPlainText(message.text);
     selectAll();
     setAlignment(AlignmentOf(message.alignment));
@@ -70,7 +85,14 @@ void CustomMessage::ShowRich(const QString& text)
     std::unique_ptr<QTextDocument> rich = NewDocument();
     // Before it is shown: a document that is seen lays itself out while it is written.
     rtf::ReadRichText(text, *rich, logicalDpiX());
+    ShowDocument(NewDocument());
+    WrapFor(rich->toPlainText());
     ShowDocument(std::move(rich));
+}
+
+void CustomMessage::WrapFor(const QString& text)
+{
+    setWordWrapMode(HasLongRun(text) ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere);
 }
 
 std::unique_ptr<QTextDocument> CustomMessage::NewDocument() const

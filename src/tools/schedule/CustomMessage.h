@@ -41,6 +41,9 @@ private:
     void ShowPlain(const CustomMessageText& message);
     void ShowRich(const QString& text);
 
+    /// Of the document that is shown and of those that follow.
+    void WrapFor(const QString& text);
+
     std::unique_ptr<QTextDocument> NewDocument() const;
     /// In place of the one before, of which nothing is left.
     void ShowDocument(std::unique_ptr<QTextDocument> next);

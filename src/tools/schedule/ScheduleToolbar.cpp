@@ -41,7 +41,8 @@ bool ScheduleToolbar::AddViewTool(const ToolDescription& tool)
     QAction* action = NewTool(tool);
     if (!action)
         return false;
-    connect(action, &QAction::triggered, this, [this, key = tool.key] { Q_EMIT ViewToolClicked(key); });
+    connect(action, &QAction::triggered, this,
+            [this, key = tool.key] { Tell([this, key] { Q_EMIT ViewToolClicked(key); }); });
     insertAction(m_firstHostTool, action);
     OpenToKeyboard();
     return true;
@@ -53,8 +54,9 @@ bool ScheduleToolbar::AddHostTool(const ToolDescription& tool)
     if (!action)
         return false;
     if (!action->isSeparator())
-        connect(action, &QAction::triggered, this,
-                [this, owner = tool.owner, key = tool.key] { Q_EMIT HostToolClicked(owner, key); });
+        connect(action, &QAction::triggered, this, [this, owner = tool.owner, key = tool.key] {
+            Tell([this, owner, key] { Q_EMIT HostToolClicked(owner, key); });
+        });
     addAction(action);
     if (!m_firstHostTool)
         m_firstHostTool = action;
@@ -74,15 +76,66 @@ bool ScheduleToolbar::AddDropDown(const QString& key, QMenu* menu)
     ButtonOf(action)->setPopupMode(QToolButton::MenuButtonPopup);
     ButtonOf(action)->setMenu(menu);
     action->setMenu(menu);
+    Follow(menu);
     return true;
+}
+
+void ScheduleToolbar::AddEntry(QMenu* menu, const QString& key, const QString& text)
+{
+    QAction* entry = menu->addAction(text);
+    entry->setObjectName(key);
+    connect(entry, &QAction::triggered, this, [this, key] { Tell([this, key] { Q_EMIT ViewToolClicked(key); }); });
+}
+
+/// Before it opens. That of a narrow bar is made when it is needed.
+void ScheduleToolbar::FollowMenuOf(const QToolButton& button)
+{
+    if (button.menu())
+        Follow(button.menu());
+}
+
+void ScheduleToolbar::Follow(const QMenu* menu)
+{
+    connect(menu, &QMenu::aboutToHide, this, &ScheduleToolbar::OnMenuEnds, Qt::UniqueConnection);
+}
+
+void ScheduleToolbar::OnMenuEnds()
+{
+    m_menuEnds = true;
+    QMetaObject::invokeMethod(
+        this, [this] { m_menuEnds = false; }, Qt::QueuedConnection);
+}
+
+/// A click may bring up a dialog, and the host may delete the view while that is open. A menu goes with the view, and
+/// does not survive that while it still works with its entry.
+void ScheduleToolbar::Tell(const std::function<void()>& click)
+{
+    if (m_menuEnds)
+        QMetaObject::invokeMethod(this, click, Qt::QueuedConnection);
+    else
+        click();
 }
 
 bool ScheduleToolbar::eventFilter(QObject* watched, QEvent* event)
 {
     auto* button = qobject_cast<QToolButton*>(watched);
-    if (button && event->type() == QEvent::KeyPress && TakesKey(*button, *static_cast<QKeyEvent*>(event)))
-        return true;
-    return QToolBar::eventFilter(watched, event);
+    return (button && TakesEvent(*button, *event)) || QToolBar::eventFilter(watched, event);
+}
+
+bool ScheduleToolbar::TakesEvent(QToolButton& button, const QEvent& event)
+{
+    switch (event.type()) {
+    case QEvent::KeyPress:
+        FollowMenuOf(button);
+        return TakesKey(button, static_cast<const QKeyEvent&>(event));
+    case QEvent::MouseButtonPress:
+        FollowMenuOf(button);
+        return false;
+    case QEvent::MouseButtonRelease:
+        return &button != m_more && TakesRelease(button, static_cast<const QMouseEvent&>(event));
+    default:
+        return false;
+    }
 }
 
 QAction* ScheduleToolbar::NewTool(const ToolDescription& tool)
@@ -128,6 +181,15 @@ QList<QToolButton*> ScheduleToolbar::Buttons() const
             buttons += ButtonOf(action);
     }
     return buttons << m_more;
+}
+
+/// After a click of the mouse the toolkit's button works with itself once more, be it there or not; here it does not.
+bool ScheduleToolbar::TakesRelease(QToolButton& button, const QMouseEvent& release)
+{
+    const bool isClick = release.button() == Qt::LeftButton && button.isDown();
+    if (isClick)
+        button.click();
+    return isClick;
 }
 
 bool ScheduleToolbar::TakesKey(QToolButton& button, const QKeyEvent& key)

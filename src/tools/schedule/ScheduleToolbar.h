@@ -4,8 +4,11 @@
 #include <QString>
 #include <QToolBar>
 
+#include <functional>
+
 class QKeyEvent;
 class QMenu;
+class QMouseEvent;
 class QToolButton;
 
 namespace schedules {
@@ -55,7 +58,11 @@ public:
     /// accessible name. False when there is no tool of that key.
     bool AddDropDown(const QString& key, QMenu* menu);
 
+    /// Adds an entry to such a menu. It is told like a tool of that key.
+    void AddEntry(QMenu* menu, const QString& key, const QString& text);
+
 Q_SIGNALS:
+    // What was chosen in a menu is told when the menu is done with it, everything else at once.
     void ViewToolClicked(const QString& key);
     void HostToolClicked(const QString& owner, const QString& key);
 
@@ -67,10 +74,17 @@ private:
     void OpenToKeyboard();
     QToolButton* ButtonOf(QAction* action) const;
     QList<QToolButton*> Buttons() const;
+    bool TakesEvent(QToolButton& button, const QEvent& event);
     bool TakesKey(QToolButton& button, const QKeyEvent& key);
+    static bool TakesRelease(QToolButton& button, const QMouseEvent& release);
+    void FollowMenuOf(const QToolButton& button);
+    void Follow(const QMenu* menu);
+    void OnMenuEnds();
+    void Tell(const std::function<void()>& click);
 
     QToolButton* m_more = nullptr; ///< stands for the tools that do not fit
     QAction* m_firstHostTool = nullptr;
+    bool m_menuEnds = false; ///< a menu that was open may tell yet what was chosen in it
 };
 
 } // namespace schedules

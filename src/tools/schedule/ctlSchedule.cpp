@@ -238,7 +238,9 @@ bool ctlSchedule::Load(const std::function<bool(const QString& xml)>& fill)
     const RepaintingOff off(*m_sheet);
     m_held.Settle();
     m_spread->ShowEditable(IsScheduleView());
+    const QPointer<QWidget> alive(this); // a host may delete the view while it shows a message
     const bool loaded = fill(m_held.Text());
+    RequireAlive(alive);
     m_editing->ForgetTable();
     m_sorting->Forget();
     MarkUnsaved();

@@ -70,9 +70,12 @@ void ctlSchedule::Transpose()
     FreezeColumns(rows);
     const QPointer<ctlSchedule> alive(this);
     ShowHeldXml();
-    if (!alive)
+    if (!alive || !m_sheet)
         return;
-    m_sheet->SetActiveCell(m_sheet->CellAt(active));
+    // What is shown now may be another, smaller table, which the host has handed over since.
+    const CellRange grid{{}, {Column(m_sheet->ColumnCount()), Row(m_sheet->RowCount())}};
+    const Cell cell = m_sheet->CellAt(active);
+    m_sheet->SetActiveCell(grid.Contains(cell) ? cell : Cell());
     m_spread->EnsureVisible(m_sheet->ActiveCell());
 }
 

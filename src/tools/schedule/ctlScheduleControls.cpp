@@ -49,9 +49,7 @@ void ctlSchedule::BuildExportMenu()
 
 void ctlSchedule::AddExport(const char* name, int caption)
 {
-    QAction* entry = m_exportMenu->addAction(LoadResString(caption));
-    entry->setObjectName(QLatin1String(name));
-    connect(entry, &QAction::triggered, this, [this, name] { ab_ToolClick(QLatin1String(name)); });
+    m_toolbar->AddEntry(m_exportMenu, QLatin1String(name), LoadResString(caption));
 }
 
 int ctlSchedule::GetUniqueToolID()

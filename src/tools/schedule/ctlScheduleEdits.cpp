@@ -38,6 +38,8 @@ void ctlSchedule::SetEdited(Cell cell, bool edited)
 
 void ctlSchedule::MarkUnsaved()
 {
+    if (!m_sheet)
+        return;
     for (const Sheet::TablePlace place : m_held.Unsaved())
         SetEdited(m_sheet->CellAt(place), true);
 }

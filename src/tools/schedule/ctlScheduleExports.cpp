@@ -118,7 +118,9 @@ std::optional<PrintJob> ctlSchedule::JobOf(const QPageSize& paper, PrintAction a
                          [&](const PrintJob& handedOver) { job = handedOver; });
     m_engine.SetSmartPrint(action == PrintAction::Smart);
     m_engine.SetSheetPrinter(&printer);
+    const QPointer<QWidget> alive(this);
     m_engine.PrintSched();
+    RequireAlive(alive);
     m_engine.SetSheetPrinter(nullptr);
     return job;
 }

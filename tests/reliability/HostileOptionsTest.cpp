@@ -1,0 +1,183 @@
+// A host that does in each message of the options editor what no host should: no crash, no broken file, no edit lost,
+// and an editor that still lives works.
+
+#include "TemplateHost.h"
+#include "framework/MessageTable.h"
+#include "support/ModalDialog.h"
+#include "support/ScriptedUserInterface.h"
+
+#include <QCoreApplication>
+#include <QDialog>
+#include <QDir>
+#include <QXmlStreamReader>
+
+namespace schedules::testing {
+
+namespace {
+
+/// A host, a user and an editor between them.
+struct Stage
+{
+    /// On screen, with the mark of the first group taken away and not saved.
+    void Open()
+    {
+        editor.Start(host);
+        editor.Widget().show();
+        editor.Mark();
+    }
+
+    void PressAnsweringYes(const char* button)
+    {
+        user.answers = {Answer::Yes, Answer::Yes};
+        editor.Press(button);
+    }
+
+    /// Presses a button that brings up the dialog for a name, and enters one.
+    void PressAndEnterName(const char* button)
+    {
+        OnceModal<QDialog>([](QDialog& dialog) {
+            const QPointer alive(&dialog);
+            dialog.findChild<QLineEdit*>("Text1")->setText("new");
+            QTest::keyClick(dialog.findChild<QLineEdit*>("Text1"), Qt::Key_Return);
+            if (alive)
+                alive->reject();
+        });
+        editor.Press(button);
+        for (QTimer* const waiting : qApp->findChildren<QTimer*>(Qt::FindDirectChildrenOnly))
+            delete waiting; // the host kept the dialog from coming up
+    }
+
+    ScriptedUserInterface user;
+    TemplateHost host;
+    HostedEditor editor{&user};
+};
+
+struct Life
+{
+    const char* name;
+    bool isOpen;    ///< and has an edit
+    bool dropsEdit; ///< by the user's own wish
+    void (*live)(Stage& stage);
+};
+
+const Life kLives[] = {
+    {"start", false, true, [](Stage& stage) { stage.editor.Start(stage.host); }},
+    {"apply", true, false, [](Stage& stage) { stage.editor.Press("cmdApply"); }},
+    {"ok", true, false, [](Stage& stage) { stage.editor.Press("cmdOK"); }},
+    {"cancel", true, true, [](Stage& stage) { stage.editor.Press("cmdCancel"); }},
+    {"delete", true, true, [](Stage& stage) { stage.PressAnsweringYes("cmdDelete"); }},
+    {"save as", true, false, [](Stage& stage) { stage.PressAndEnterName("cmdSaveAs"); }},
+    {"apply that fails", true, false,
+     [](Stage& stage) {
+         stage.host.failing = {"GETTEMPLATELIST", "UPDATESCHEDCONFIG", "SETCURRENTSCHEDTEMPLATE"};
+         stage.editor.Press("cmdApply");
+         stage.host.failing.clear();
+     }},
+};
+
+constexpr auto kEdit = "<Group Name=\"Design\" DisplayName=\"Design\" ShowThisGroup=\"0\"";
+
+bool IsSaved(const TemplateHost& host)
+{
+    return host.Content("pumps.xml").contains(kEdit) || host.Content("new.xml").contains(kEdit);
+}
+
+bool IsShown(const HostedEditor& editor)
+{
+    return editor.Find("cboTemplates").isEnabled();
+}
+
+void ExpectWholeFiles(const TemplateHost& host)
+{
+    for (const QString& name : QDir(host.folder.path()).entryList(QDir::Files | QDir::Hidden)) {
+        QXmlStreamReader reader(host.Content(name));
+        while (!reader.atEnd())
+            reader.readNext();
+        EXPECT_FALSE(reader.hasError()) << name.toStdString();
+    }
+}
+
+/// What is edited and saved by an editor that shows templates is in the file; any editor can be left.
+void ExpectWorking(Stage& stage)
+{
+    const HostedEditor& editor = stage.editor;
+    editor.Widget().show();
+    if (IsShown(editor) && editor.Find("cmdDelete").isEnabled() && editor.Mark()) {
+        stage.user.answers = {Answer::Yes};
+        EXPECT_TRUE(editor.HasUnsavedEdits());
+        stage.PressAnsweringYes("cmdApply");
+        EXPECT_FALSE(editor.HasUnsavedEdits());
+    }
+    editor.ExpectLeft(stage.host);
+}
+
+/// Whatever has happened, the next editor shows what there is.
+void ExpectAnotherWorking(TemplateHost& host)
+{
+    ScriptedUserInterface user;
+    const HostedEditor another(&user);
+    another.Start(host);
+    EXPECT_GE(another.Templates(), 2);
+}
+
+bool LiveWith(const Deed& deed, const Life& life, int at)
+{
+    Stage stage;
+    if (life.isOpen)
+        stage.Open();
+    stage.host.Arm(at, deed, stage.editor);
+    life.live(stage);
+    const bool wasDone = stage.host.Disarm() >= at;
+    ExpectWholeFiles(stage.host);
+    const bool isKept = stage.editor.Lives() && IsShown(stage.editor) && !life.dropsEdit;
+    EXPECT_TRUE(!isKept || IsSaved(stage.host) || stage.editor.HasUnsavedEdits());
+    if (stage.editor.Lives())
+        ExpectWorking(stage);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    ExpectAnotherWorking(stage.host);
+    return wasDone;
+}
+
+class HostileOptions : public ::testing::TestWithParam<Deed>
+{
+};
+
+} // namespace
+
+TEST_P(HostileOptions, MayInEachMessage)
+{
+    for (const Life& life : kLives) {
+        SCOPED_TRACE(life.name);
+        int messages = 0;
+        while (LiveWith(GetParam(), life, messages + 1))
+            ++messages;
+        EXPECT_GE(messages, 1);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Host, HostileOptions, ::testing::ValuesIn(kDeeds),
+                         [](const auto& deed) { return std::string(deed.param.name); });
+
+TEST(HostileOptionsLives, MeetEveryMessageOfTheEditor)
+{
+    QSet<QString> met;
+    for (const Life& life : kLives) {
+        Stage stage;
+        if (life.isOpen)
+            stage.Open();
+        life.live(stage);
+        for (const QString& name : stage.host.Names())
+            met.insert(name);
+    }
+    EXPECT_EQ(Sorted(met), Sorted(kMessagesOfEditor));
+}
+
+TEST(HostileHost, KnowsEveryMessageThatThereIs)
+{
+    QSet<QString> all;
+    for (const MessageForm& form : MessageTable())
+        all.insert(QLatin1String(form.name));
+    EXPECT_EQ(Sorted(kMessagesOfView + kMessagesOfEditor), Sorted(all));
+}
+
+} // namespace schedules::testing
