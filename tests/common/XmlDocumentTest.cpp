@@ -5,7 +5,6 @@
 
 #include <QElapsedTimer>
 #include <QFile>
-#include <QStringConverter>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -47,13 +46,6 @@ std::string Names(const std::vector<XmlNode>& nodes)
 std::string Selected(const XmlDocument& document, const char* xpath)
 {
     return Names(document.Select(Text(xpath)));
-}
-
-/// The text of the root of a file's bytes; "refused" when they are not read.
-std::string FromBytes(const QByteArray& bytes)
-{
-    const XmlDocument document = XmlDocument::FromBytes(bytes);
-    return document ? document.Root().WholeText().toStdString() : "refused";
 }
 
 struct XmlDocumentBad : ::testing::TestWithParam<BadXml>
@@ -337,40 +329,6 @@ TEST(XmlNode, AnAppendedElementIsInNoNamespaceAlsoAfterReading)
     const auto nested = Parsed("<a xmlns='u'><c xmlns=''/></a>");
     nested.SelectOne(Text("//c")).AppendElement(Text("b"));
     EXPECT_EQ(nested.ToText(), Text("<a xmlns=\"u\"><c xmlns=\"\"><b/></c></a>"));
-}
-
-TEST(XmlDocument, ADeclaredEncodingOfATextIsIgnoredAndOfAFileHonoured)
-{
-    const char* const declaration = "<?xml version='1.0' encoding='windows-1251'?>";
-    EXPECT_EQ(Parsed((std::string(declaration) + "<a>Ж</a>").c_str()).Root().WholeText(), Text("Ж"));
-    EXPECT_EQ(FromBytes(QByteArray(declaration) + "<a>\xC6</a>"), "Ж");
-    EXPECT_EQ(FromBytes("<a>Ж</a>"), "Ж");
-    EXPECT_EQ(FromBytes("<?xml version='1.0' encoding='ISO-8859-1'?><a>\xE9</a>"), "é");
-}
-
-TEST(XmlDocument, AByteOrderMarkOrTheFirstBytesTellUnicodeEncodings)
-{
-    for (const auto encoding : {QStringConverter::Utf8, QStringConverter::Utf16LE, QStringConverter::Utf16BE,
-                                QStringConverter::Utf32LE, QStringConverter::Utf32BE})
-    {
-        QStringEncoder plain(encoding);
-        QStringEncoder marked(encoding, QStringConverter::Flag::WriteBom);
-        EXPECT_EQ(FromBytes(plain(Text("<a>Ж 𝄞</a>"))), "Ж 𝄞");
-        EXPECT_EQ(FromBytes(marked(Text("<?xml version='1.0' encoding='UTF-16'?><a>Ж</a>"))), "Ж");
-    }
-}
-
-TEST(XmlDocument, BytesThatAreNotOfTheirEncodingAreRefused)
-{
-    EXPECT_EQ(FromBytes({}), "refused");
-    EXPECT_EQ(FromBytes("<a>\xE9</a>"), "refused");
-    EXPECT_EQ(FromBytes("<?xml version='1.0' encoding='US-ASCII'?><a>\xE9</a>"), "refused");
-    EXPECT_EQ(FromBytes("<?xml version='1.0' encoding='nonsense'?><a/>"), "refused");
-    EXPECT_EQ(FromBytes("<?xml version='1.0' encoding='UTF-16'?><a/>"), "refused");
-    EXPECT_EQ(FromBytes("\xEF\xBB\xBF<a>\xE9</a>"), "refused");
-    EXPECT_EQ(FromBytes(QByteArray("\xFF\xFE<\0a\0/\0>", 9)), "refused");
-    EXPECT_EQ(FromBytes(QByteArray("\xFF\xFE<\0a\0/\0>\0!", 11)), "refused");
-    EXPECT_EQ(FromBytes("\xEF\xBB\xBF<a/>\xC3"), "refused");
 }
 
 TEST(XmlDocument, IsReadFromAFile)
