@@ -1,6 +1,7 @@
 #include "host/FileReplacement.h"
 
 #include "host/HostError.h"
+#include "support/OrdinaryUser.h"
 
 #include <QDir>
 #include <QFile>
@@ -11,7 +12,6 @@
 #include <gtest/gtest.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace schedules::host {
 
@@ -111,12 +111,14 @@ TEST_F(FileReplacement, AFolderIsNotReplaced)
 
 TEST_F(FileReplacement, AFolderThatCannotBeWrittenLeavesTheFileAsItWas)
 {
-    if (geteuid() == 0)
-        GTEST_SKIP() << "everything can be written by this user";
     ReplaceFile(Path("a"), "old");
-    QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::ExeOwner);
-    EXPECT_TRUE(Failure(Path("a"), "new").starts_with("cannot write "));
-    QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    const auto readable = QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther;
+    QFile::setPermissions(folder.path(), readable);
+    {
+        const schedules::testing::OrdinaryUser user;
+        EXPECT_TRUE(Failure(Path("a"), "new").starts_with("cannot write "));
+    }
+    QFile::setPermissions(folder.path(), readable | QFile::WriteOwner);
     EXPECT_EQ(Content("a"), "old");
 }
 

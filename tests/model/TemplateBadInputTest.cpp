@@ -2,11 +2,11 @@
 
 #include "model/TemplatesFolder.h"
 #include "support/BadXml.h"
+#include "support/OrdinaryUser.h"
 
 #include <QElapsedTimer>
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 using namespace schedules;
 using namespace schedules::testing;
@@ -37,19 +37,6 @@ QByteArray Around(int levels, const char* content = "<Template/>")
 {
     return QByteArray("<a>").repeated(levels) + content + QByteArray("</a>").repeated(levels);
 }
-
-/// The superuser may read every file; whoever runs this is somebody else as long as it lives.
-class NotTheSuperuser
-{
-public:
-    NotTheSuperuser() { EXPECT_TRUE(m_before != 0 || ::seteuid(kNobody) == 0); }
-    ~NotTheSuperuser() { EXPECT_EQ(::seteuid(m_before), 0); }
-    Q_DISABLE_COPY_MOVE(NotTheSuperuser)
-
-private:
-    static constexpr uid_t kNobody = 65534;
-    const uid_t m_before = ::geteuid();
-};
 
 struct TemplateBadInput : TemplateFixture
 {
@@ -147,7 +134,7 @@ TEST_F(TemplateBadInput, AFileThatMayNotBeReadIsRefused)
     folder.Write("secret.xml", "<Template/>");
     ASSERT_EQ(::chmod(qPrintable(folder.Path("secret.xml")), 0), 0);
     model.SetFilename("secret.xml");
-    const NotTheSuperuser reader;
+    const OrdinaryUser reader;
     EXPECT_TRUE(IsRefused());
 }
 

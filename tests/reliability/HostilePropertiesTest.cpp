@@ -23,6 +23,9 @@ constexpr int kSteps = 250;
 /// As wide as a toolkit still draws its own controls in no time.
 constexpr int kWide = 20'000;
 
+/// As far away as a toolkit's own rectangles do not overflow.
+constexpr int kFar = std::numeric_limits<int>::max() / 4;
+
 /// Of the tool and of the widget that it is.
 std::vector<const char*> WritableProperties(const QObject& tool)
 {
@@ -67,8 +70,8 @@ std::vector<QVariant> OddValues()
             QVariantMap{{"a", 1}},
             QSize(-1, kWide),
             QSize(kWide, kWide),
-            QRect(Limits::min(), 0, kWide, 1),
-            QPoint(Limits::max(), Limits::min()),
+            QRect(-kFar, 0, kWide, 1),
+            QPoint(kFar, -kFar),
             QFont("no such family", 1),
             QColor(Qt::red),
             QVariant::fromValue<QObject*>(nullptr),
