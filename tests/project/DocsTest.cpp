@@ -1,6 +1,7 @@
 // The pages of documentation against what they describe: messages, attributes, commands, names in the sources, and the
 // pages and places that they point to.
 
+#include "ProjectTexts.h"
 #include "framework/MessageTable.h"
 
 #include <QDir>
@@ -16,23 +17,7 @@
 namespace {
 
 using namespace schedules;
-
-const QString kProject = QStringLiteral(SCHEDULES_SOURCE_DIR);
-
-QString ContentOf(const QString& file)
-{
-    QFile page(kProject + '/' + file);
-    return page.open(QFile::ReadOnly) ? QString::fromUtf8(page.readAll()) : QString();
-}
-
-QStringList Captured(const QString& text, const QString& pattern)
-{
-    QStringList found;
-    auto matches = QRegularExpression(pattern).globalMatch(text);
-    while (matches.hasNext())
-        found << matches.next().captured(1);
-    return found;
-}
+using namespace schedules::testing;
 
 QString Code(const QString& text)
 {

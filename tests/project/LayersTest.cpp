@@ -1,12 +1,15 @@
 // The layers of the project: which folder may include which, and which folders may know what of the libraries.
 
+#include "ProjectTexts.h"
+
 #include <QDirIterator>
-#include <QFile>
 #include <QHash>
 #include <QRegularExpression>
 #include <QStringList>
 
 #include <gtest/gtest.h>
+
+using namespace schedules::testing;
 
 namespace {
 
@@ -16,8 +19,6 @@ struct Include
     QString layer; ///< of the including file
     QString header;
 };
-
-const QString kProject = QStringLiteral(SCHEDULES_SOURCE_DIR);
 
 /// What each layer may include beside itself.
 const QHash<QString, QStringList> kMayInclude{
@@ -59,27 +60,12 @@ QStringList SourcesBelow(const QString& folder)
     return files;
 }
 
-QString ContentOf(const QString& file)
-{
-    QFile source(kProject + '/' + file);
-    return source.open(QFile::ReadOnly) ? QString::fromUtf8(source.readAll()) : QString();
-}
-
-QStringList HeadersIn(const QString& content, const QString& pattern)
-{
-    QStringList headers;
-    auto matches = QRegularExpression(pattern, QRegularExpression::MultilineOption).globalMatch(content);
-    while (matches.hasNext())
-        headers << matches.next().captured(1);
-    return headers;
-}
-
 QList<Include> Includes(const QString& pattern)
 {
     QList<Include> includes;
     for (const QString& file : SourcesBelow("src") + SourcesBelow("host")) {
         const QString layer = file.startsWith("host/") ? QStringLiteral("host") : LayerOf(file.mid(4));
-        for (const QString& header : HeadersIn(ContentOf(file), pattern))
+        for (const QString& header : Captured(ContentOf(file), pattern))
             includes.append({file, layer, header});
     }
     return includes;

@@ -1,31 +1,17 @@
 // What is told about the component as a product, against what it is: public headers, version, the guide's host.
 
+#include "ProjectTexts.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
-#include <QRegularExpression>
 #include <QStringList>
 
 #include <gtest/gtest.h>
 
+using namespace schedules::testing;
+
 namespace {
-
-const QString kProject = QStringLiteral(SCHEDULES_SOURCE_DIR);
-
-QString ContentOf(const QString& file)
-{
-    QFile page(kProject + '/' + file);
-    return page.open(QFile::ReadOnly) ? QString::fromUtf8(page.readAll()) : QString();
-}
-
-QStringList Captured(const QString& text, const QString& pattern)
-{
-    QStringList found;
-    auto matches = QRegularExpression(pattern, QRegularExpression::MultilineOption).globalMatch(text);
-    while (matches.hasNext())
-        found << matches.next().captured(1);
-    return found;
-}
 
 QStringList IncludedBy(const QString& file)
 {

@@ -79,6 +79,20 @@ inline const Deed kDeeds[] = {
      [](HostedTool&, IMsgRouter&, const QString&) { return QStringLiteral("<Templates><Template name='x"); }},
 };
 
+/// Lives each life with something hostile in each of its messages, one after the other. `liveWith` gets the number of
+/// the message, and tells whether there were so many.
+template <class Lives, class LiveWith>
+void LiveWithEachMessage(const Lives& lives, LiveWith liveWith)
+{
+    for (const auto& life : lives) {
+        SCOPED_TRACE(life.name);
+        int messages = 0;
+        while (liveWith(life, messages + 1))
+            ++messages;
+        EXPECT_GE(messages, 1);
+    }
+}
+
 /// For sets that are compared.
 inline std::string Sorted(const QSet<QString>& names)
 {

@@ -146,13 +146,7 @@ class HostileOptions : public ::testing::TestWithParam<Deed>
 
 TEST_P(HostileOptions, MayInEachMessage)
 {
-    for (const Life& life : kLives) {
-        SCOPED_TRACE(life.name);
-        int messages = 0;
-        while (LiveWith(GetParam(), life, messages + 1))
-            ++messages;
-        EXPECT_GE(messages, 1);
-    }
+    LiveWithEachMessage(kLives, [](const Life& life, int at) { return LiveWith(GetParam(), life, at); });
 }
 
 INSTANTIATE_TEST_SUITE_P(Host, HostileOptions, ::testing::ValuesIn(kDeeds),
