@@ -50,23 +50,9 @@ void OptionsWindow::BuildMenus()
     menuBar()->addMenu(tr("&View"))->addAction(m_messages->toggleViewAction());
 }
 
-/// Whether the edits are saved now, or the user does not want them.
-bool OptionsWindow::MayDropEdits()
-{
-    switch (m_answering.unsaved(*this, m_tool.TemplateFile())) {
-    case UnsavedValues::Save:
-        m_tool.PressApply();
-        return !m_tool.HasUnsavedEdits();
-    case UnsavedValues::Discard:
-        return true;
-    default:
-        return false;
-    }
-}
-
 void OptionsWindow::closeEvent(QCloseEvent* event)
 {
-    const bool stays = !m_unloaded && m_tool.HasUnsavedEdits() && !MayDropEdits();
+    const bool stays = !m_unloaded && !MayReplace(m_tool, *this, m_answering.unsaved);
     event->setAccepted(!stays);
     if (!stays && !m_unloaded)
         m_tool.PressCancel();

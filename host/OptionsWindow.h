@@ -33,7 +33,6 @@ protected:
 
 private:
     void BuildMenus();
-    bool MayDropEdits();
     void OnCrossed(const Crossing& crossing);
 
     HostRouter& m_router;

@@ -1,5 +1,6 @@
 #include "host/UnsavedValues.h"
 
+#include "host/OptionsTool.h"
 #include "host/ScheduleTool.h"
 #include "host/Warning.h"
 
@@ -22,20 +23,27 @@ UnsavedValues AskAboutUnsaved(QWidget& window, const QString& file)
     }
 }
 
+namespace {
+
+/// `save` tells whether everything is saved afterwards.
+template <class Save>
+bool MayDrop(UnsavedValues answer, Save save)
+{
+    return answer == UnsavedValues::Discard || (answer == UnsavedValues::Save && save());
+}
+
+} // namespace
+
 bool MayReplace(ScheduleTool& tool, QWidget& window, const QString& name, const UnsavedQuestion& question)
 {
     tool.CommitEdit();
-    if (!tool.Dirty())
-        return true;
-    switch (question(window, name)) {
-    case UnsavedValues::Save:
-        tool.Save();
-        return !tool.Dirty();
-    case UnsavedValues::Discard:
-        return true;
-    default:
-        return false;
-    }
+    return !tool.Dirty() || MayDrop(question(window, name), [&] { return tool.Save(), !tool.Dirty(); });
+}
+
+bool MayReplace(OptionsTool& editor, QWidget& window, const UnsavedQuestion& question)
+{
+    return !editor.HasUnsavedEdits() || MayDrop(question(window, editor.TemplateFile()),
+                                                [&] { return editor.PressApply(), !editor.HasUnsavedEdits(); });
 }
 
 } // namespace schedules::host

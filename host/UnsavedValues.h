@@ -8,6 +8,7 @@ class QWidget;
 
 namespace schedules::host {
 
+class OptionsTool;
 class ScheduleTool;
 
 /// What becomes of edited values when something else is about to be shown.
@@ -27,5 +28,8 @@ UnsavedValues AskAboutUnsaved(QWidget& window, const QString& file);
 /// Whether something else may be shown in place of what a view shows: nothing is unsaved, or the user had it saved, or
 /// does not want it.
 bool MayReplace(ScheduleTool& tool, QWidget& window, const QString& name, const UnsavedQuestion& question);
+
+/// The same for the template that an editor edits.
+bool MayReplace(OptionsTool& editor, QWidget& window, const UnsavedQuestion& question);
 
 } // namespace schedules::host

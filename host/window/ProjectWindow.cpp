@@ -261,17 +261,7 @@ bool ProjectWindow::MayReplaceView()
 /// Whether the edits of the open template are saved now, or the user does not want them.
 bool ProjectWindow::MayDropTemplate()
 {
-    if (!m_options || !m_options->HasUnsavedEdits())
-        return true;
-    switch (m_answering.unsaved(*this, m_options->TemplateFile())) {
-    case UnsavedValues::Save:
-        m_options->PressApply();
-        return !m_options->HasUnsavedEdits();
-    case UnsavedValues::Discard:
-        return true;
-    default:
-        return false;
-    }
+    return !m_options || MayReplace(*m_options, *this, m_answering.unsaved);
 }
 
 /// The template first: applying it may build the schedule anew, which asks about its values.
