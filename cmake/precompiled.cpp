@@ -1,0 +1,1 @@
+// Nothing: the precompiled headers are made along with it.
