@@ -46,14 +46,6 @@ void CellStore::AddLine(int line)
         m_lines.resize(static_cast<std::size_t>(line) + 1, Line{static_cast<std::uint32_t>(m_cells.size()), 0, 0});
 }
 
-const CellStore::StoredCell* CellStore::Find(int line, int slot) const
-{
-    if (line < 0 || line >= LineCount() || slot < 0 || slot >= SlotCount(line))
-        return nullptr;
-    const StoredCell& cell = m_cells[m_lines[line].start + static_cast<std::uint32_t>(slot)];
-    return cell.style == kNoStyle ? nullptr : &cell;
-}
-
 CellStore::StoredCell& CellStore::Slot(int line, int slot)
 {
     if (slot < 0 || slot == std::numeric_limits<int>::max())
@@ -151,17 +143,6 @@ CellStyle CellStore::Style(int line, int slot) const
 {
     const StoredCell* cell = Find(line, slot);
     return cell ? m_styles[cell->style] : CellStyle{};
-}
-
-CellStore::Content CellStore::At(int line, int slot) const
-{
-    const StoredCell* cell = Find(line, slot);
-    return cell ? Content{TextOf(*cell), m_styles[cell->style]} : Content{};
-}
-
-int CellStore::SlotCount(int line) const
-{
-    return line >= 0 && line < LineCount() ? static_cast<int>(m_lines[line].count) : 0;
 }
 
 CellStore CellStore::Transposed() const

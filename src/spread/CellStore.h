@@ -40,7 +40,11 @@ public:
         CellStyle style;
     };
 
-    Content At(int line, int slot) const;
+    Content At(int line, int slot) const
+    {
+        const StoredCell* cell = Find(line, slot);
+        return cell ? Content{TextOf(*cell), m_styles[cell->style]} : Content{};
+    }
 
     /// Calls `visit(slot, text, style)` for each slot of the line that holds data, in order.
     template <class Visit>
@@ -55,7 +59,10 @@ public:
     }
 
     int LineCount() const { return static_cast<int>(m_lines.size()); }
-    int SlotCount(int line) const;
+    int SlotCount(int line) const
+    {
+        return line >= 0 && line < LineCount() ? static_cast<int>(m_lines[line].count) : 0;
+    }
 
     /// The extent of what lies beyond line 0 and slot 0, the headers: the highest line and slot that hold data.
     int LastDataLine() const { return m_lastDataLine; }
@@ -101,7 +108,15 @@ private:
     }
 
     std::string_view LongTextOf(const StoredCell& cell) const;
-    const StoredCell* Find(int line, int slot) const;
+
+    const StoredCell* Find(int line, int slot) const
+    {
+        if (slot < 0 || slot >= SlotCount(line))
+            return nullptr;
+        const StoredCell& cell = m_cells[m_lines[line].start + static_cast<std::uint32_t>(slot)];
+        return cell.style == kNoStyle ? nullptr : &cell;
+    }
+
     StoredCell& Slot(int line, int slot);
     void Grow(Line& line, std::uint32_t count);
     void Extend(Line& line, std::uint32_t capacity);

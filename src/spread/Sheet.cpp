@@ -24,13 +24,6 @@ Sheet::Sheet(QObject* parent) : QObject(parent), m_columns(kDefaultColumnWidth),
 
 Sheet::~Sheet() = default;
 
-Sheet::TablePlace Sheet::TablePlaceOf(Cell cell) const
-{
-    if (m_lines == Lines::AreRows)
-        return {cell.row.Value(), cell.column.Value()};
-    return {cell.column.Value(), cell.row.Value()};
-}
-
 Cell Sheet::CellAt(TablePlace place) const
 {
     if (m_lines == Lines::AreRows)
@@ -61,12 +54,6 @@ std::string_view Sheet::Utf8(Cell cell) const
 {
     const TablePlace place = TablePlaceOf(cell);
     return m_store.Text(place.line, place.slot);
-}
-
-CellStore::Content Sheet::Content(Cell cell) const
-{
-    const TablePlace place = TablePlaceOf(cell);
-    return m_store.At(place.line, place.slot);
 }
 
 QString Sheet::Text(Cell cell) const

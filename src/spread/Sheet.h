@@ -87,7 +87,12 @@ public:
         auto operator<=>(const TablePlace&) const = default;
     };
 
-    TablePlace TablePlaceOf(Cell cell) const;
+    TablePlace TablePlaceOf(Cell cell) const
+    {
+        if (m_lines == Lines::AreRows)
+            return {cell.row.Value(), cell.column.Value()};
+        return {cell.column.Value(), cell.row.Value()};
+    }
     Cell CellAt(TablePlace place) const;
 
     /// Takes over the cells of a table on top of what is there.
@@ -184,5 +189,11 @@ private:
     mutable std::vector<int> m_widest; ///< by column, text alone; empty when it must be measured anew
     bool m_repainting = true;
 };
+
+inline CellStore::Content Sheet::Content(Cell cell) const
+{
+    const TablePlace place = TablePlaceOf(cell);
+    return m_store.At(place.line, place.slot);
+}
 
 } // namespace schedules

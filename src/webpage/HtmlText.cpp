@@ -4,7 +4,6 @@
 
 #include <QChar>
 
-#include <algorithm>
 #include <array>
 
 namespace schedules {
@@ -29,6 +28,15 @@ constexpr std::array<bool, 256> kNeedsCare = [] {
         needsCare[byte] = true;
     return needsCare;
 }();
+
+/// Does not end early: nearly all texts are plain, and short.
+bool IsPlain(std::string_view utf8)
+{
+    bool needsCare = false;
+    for (const char byte : utf8)
+        needsCare |= kNeedsCare[static_cast<unsigned char>(byte)];
+    return !needsCare;
+}
 
 bool IsFit(char32_t character)
 {
@@ -66,8 +74,7 @@ void AppendWithCare(std::string& html, std::string_view utf8)
 
 void AppendHtml(std::string& html, std::string_view utf8)
 {
-    const bool isPlain = std::ranges::none_of(utf8, [](unsigned char byte) { return kNeedsCare[byte]; });
-    if (isPlain)
+    if (IsPlain(utf8))
         html += utf8;
     else
         AppendWithCare(html, utf8);
