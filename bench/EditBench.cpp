@@ -1,5 +1,5 @@
-// Editing a cell in a small and in a large table, opening a document for its first edit beside loading it, and ticking
-// and collecting ten times as many tags.
+// Editing a cell in a small and in a large table, opening a document for its first edit beside loading it, transposing,
+// and ticking and collecting ten times as many tags.
 
 #include "Documents.h"
 #include "Quiet.h"
@@ -36,9 +36,8 @@ void EditCells(benchmark::State& state)
     }
 }
 
-void LoadDocument(benchmark::State& state)
+void LoadText(benchmark::State& state, const QString& xml)
 {
-    const QString xml = EditableDocument({1000, 1000});
     Quiet quiet;
     for (auto _ : state) {
         Sheet sheet;
@@ -46,6 +45,11 @@ void LoadDocument(benchmark::State& state)
         engine.SetSched(&sheet);
         benchmark::DoNotOptimize(engine.LoadScheduleData(xml));
     }
+}
+
+void LoadDocument(benchmark::State& state)
+{
+    LoadText(state, EditableDocument({1000, 1000}));
 }
 
 void OpenDocument(benchmark::State& state)
@@ -56,6 +60,19 @@ void OpenDocument(benchmark::State& state)
         document.Hold(xml);
         benchmark::DoNotOptimize(document.SetCellText({500, 500}, QStringLiteral("x")));
     }
+}
+
+/// As the tool of the toolbar does.
+void Transpose(benchmark::State& state)
+{
+    ShownSchedule shown(1, ScheduleDocument({static_cast<int>(state.range(0)), static_cast<int>(state.range(1))}));
+    for (auto _ : state)
+        shown.view.ab_ToolClick(QStringLiteral("btnTranspose"));
+}
+
+void LoadPlainDocument(benchmark::State& state)
+{
+    LoadText(state, ScheduleDocument({1000, 1000}));
 }
 
 /// Ticks all tags through the grid's menu, then collects them.
@@ -82,6 +99,10 @@ const bool kRegistered = [] {
     add("edit a cell/of 1,000,000 cells", EditCells, {1000, 1000});
     add("open for editing/own", OpenDocument);
     add("open for editing/loading it", LoadDocument);
+    add("transpose/1000x1000/own", Transpose, {1000, 1000});
+    add("transpose/1000x1000/loading it", LoadPlainDocument);
+    add("transpose/growth/own", Transpose, {500, 500});
+    add("transpose/growth/of four times as many cells", Transpose, {1000, 1000});
     add("tick and collect/own", TickAndCollect, {10'000});
     add("tick and collect/ten times as many tags", TickAndCollect, {100'000});
     return true;

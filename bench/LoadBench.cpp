@@ -126,10 +126,20 @@ void Register(const char* size, TableSize table)
     add("memory", "own", OwnMemory)->Iterations(1);
 }
 
+void RegisterGrowth(const char* who, TableSize table)
+{
+    const std::string name = std::string("load/growth/") + who;
+    benchmark::RegisterBenchmark(name.c_str(), OwnLoad)
+        ->Args({table.rows, table.columns})
+        ->Unit(benchmark::kMillisecond);
+}
+
 const bool kRegistered = [] {
     Register("60x20", {60, 20});
     Register("500x500", {500, 500});
     Register("1000x1000", {1000, 1000});
+    RegisterGrowth("own", {500, 500});
+    RegisterGrowth("of four times as many cells", {1000, 1000});
     return true;
 }();
 

@@ -1,5 +1,6 @@
-// Writing a workbook, against another library that writes the same cells as .xlsx row by row, with the same formats.
-// How much memory the writing takes beside the sheet is a figure of its own.
+// Writing a workbook, against another library that writes the same cells as .xlsx row by row, with the same formats,
+// and a library of another language that writes a table alike, in a program that tells its time. How much memory the
+// writing takes beside the sheet is a figure of its own.
 
 #include "Sheets.h"
 #include "spread/VisibleCopy.h"
@@ -7,6 +8,7 @@
 #include "workbook/WorkbookCell.h"
 
 #include <QFileInfo>
+#include <QProcess>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
@@ -64,8 +66,9 @@ void OwnMemory(benchmark::State& state)
         std::ofstream("/proc/self/clear_refs") << "5";
         const double before = PeakMemory();
         WriteWorkbook(*sheet, QStringLiteral("Schedule"), file);
-        state.counters["bytes_beside_the_sheet"] = PeakMemory() - before;
-        state.counters["bytes_of_the_file"] = static_cast<double>(QFileInfo(file).size());
+        const double beside = PeakMemory() - before;
+        state.counters["bytes_beside_the_sheet"] = beside;
+        state.counters["bytes_beside_per_byte_of_the_file"] = beside / static_cast<double>(QFileInfo(file).size());
     }
 }
 
@@ -98,6 +101,21 @@ void Xlsxwriter(benchmark::State& state)
     }
 }
 
+void PythonXlwt(benchmark::State& state)
+{
+    for (auto _ : state) {
+        QProcess python;
+        python.start(QStringLiteral("/usr/bin/python3"),
+                     {QStringLiteral(SCHEDULES_SOURCE_DIR "/bench/workbook_peer.py"), QString::number(state.range(0)),
+                      QString::number(state.range(1))});
+        python.waitForFinished(-1);
+        bool told = false;
+        state.SetIterationTime(python.readAllStandardOutput().trimmed().toDouble(&told));
+        if (!told)
+            state.SkipWithError("the other program did not tell its time");
+    }
+}
+
 void Register(int columns, int rows)
 {
     const auto add = [&](const char* what, const char* who, void (*run)(benchmark::State&)) {
@@ -115,6 +133,11 @@ const bool kRegistered = [] {
     Register(15, 65'536);
     Register(50, 20'000);
     Register(250, 4'000);
+    benchmark::RegisterBenchmark("workbook/65536x15/python3-xlwt", PythonXlwt)
+        ->Args({15, 65'536})
+        ->Unit(benchmark::kMillisecond)
+        ->UseManualTime()
+        ->Iterations(1);
     return true;
 }();
 

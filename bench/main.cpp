@@ -1,43 +1,29 @@
-// Runs the benchmarks and prints, after the usual lines, every figure as a ratio to the component's own.
+// Runs the benchmarks and prints, after the usual lines, every figure beside its peers and what is promised of it.
+
+#include "FigureTable.h"
 
 #include <QApplication>
 
 #include <benchmark/benchmark.h>
-#include <cstdio>
-#include <map>
-#include <string>
 
 namespace {
 
-/// The console's report, and in the end a table: how many times the component's own
-/// processor time each peer took (all of them run on one thread).
-class RatioReporter : public benchmark::ConsoleReporter
+class TableReporter : public benchmark::ConsoleReporter
 {
 public:
     void ReportRuns(const std::vector<Run>& runs) override
     {
         ConsoleReporter::ReportRuns(runs);
         for (const Run& run : runs) {
-            const std::string name = run.run_name.function_name;
-            const std::size_t slash = name.rfind('/');
-            m_times[name.substr(0, slash)][name.substr(slash + 1)] = run.GetAdjustedCPUTime();
+            if (!run.error_occurred)
+                m_table.Add(run);
         }
     }
 
-    void Finalize() override
-    {
-        std::printf("\nTimes as multiples of the component's own:\n");
-        for (const auto& [group, times] : m_times) {
-            const auto own = times.find("own");
-            if (own == times.end() || times.size() < 2)
-                continue;
-            for (const auto& [who, time] : times)
-                std::printf("  %-28s %-28s %8.2f\n", group.c_str(), who.c_str(), time / own->second);
-        }
-    }
+    void Finalize() override { m_table.Print(); }
 
 private:
-    std::map<std::string, std::map<std::string, double>> m_times;
+    schedules::bench::FigureTable m_table;
 };
 
 } // namespace
@@ -50,7 +36,7 @@ int main(int argc, char** argv)
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;
-    RatioReporter reporter;
+    TableReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return 0;
 }

@@ -24,4 +24,4 @@ for row, values in enumerate(table):
         sheet.write(row, column, value, text if isinstance(value, str) else number)
 with tempfile.TemporaryFile() as file:
     book.save(file)
-print("%.2f s" % (time.process_time() - start))
+print("%.3f" % (time.process_time() - start))
