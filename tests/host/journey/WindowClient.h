@@ -55,7 +55,7 @@ public:
     }
 
     /// Kills it, unless it is gone.
-    void Kill() { ::kill(static_cast<pid_t>(m_process.processId()), SIGKILL); }
+    void Kill() { m_process.kill(); }
 
     /// What it has answered before it was killed; all of it has been read then.
     QStringList LastWords()
