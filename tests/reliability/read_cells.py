@@ -1,4 +1,4 @@
-"""Prints the cells of an exported schedule without its headers, one row a line: what kind each is, and its text."""
+"""Prints the cells of an exported schedule, headers included, one row a line: what kind each is, and its text."""
 
 import csv
 import html.parser
@@ -32,13 +32,15 @@ def of_csv(name):
 class Cells(html.parser.HTMLParser):
     def __init__(self):
         super().__init__()
-        self.rows, self.inside = [], False
+        self.tables, self.inside = [], False
 
     def handle_starttag(self, tag, attributes):
+        if tag == "table":
+            self.tables.append([])
         if tag == "tr":
-            self.rows.append([])
+            self.tables[-1].append([])
         if tag in ("td", "th"):
-            self.rows[-1].append("")
+            self.tables[-1][-1].append("")
         self.inside = tag in ("td", "th")
 
     def handle_endtag(self, tag):
@@ -46,14 +48,14 @@ class Cells(html.parser.HTMLParser):
 
     def handle_data(self, data):
         if self.inside:
-            self.rows[-1][-1] += data
+            self.tables[-1][-1][-1] += data
 
 
 def of_html(name):
     cells = Cells()
     with open(name, encoding="utf-8", newline="") as file:
         cells.feed(file.read())
-    for row in cells.rows:
+    for row in cells.tables[0]:  # the others are the same in parts, for paper
         yield [("text", text) for text in row]
 
 
@@ -63,5 +65,5 @@ def escaped(text):
 
 sys.stdout.reconfigure(encoding="utf-8", newline="")
 read = {"xls": of_xls, "xlsx": of_xlsx, "csv": of_csv, "html": of_html}[sys.argv[1].rsplit(".", 1)[1]]
-for row in list(read(sys.argv[1]))[1:]:
-    print(" | ".join("%s %s" % (kind, escaped(text)) for kind, text in row[1:]))
+for row in read(sys.argv[1]):
+    print(" | ".join("%s %s" % (kind, escaped(text)) for kind, text in row))

@@ -148,10 +148,11 @@ bool ctlSchedule::MayUnload()
     if (!m_engine.TagDataDirty())
         return true;
     const QPointer<ctlSchedule> alive(this);
+    const bool isSavable = IsScheduleView(); // as the user is asked, whatever the host sets meanwhile
     const Answer answer = Ui().Show({QLatin1String(kSaveQuestion), kYesNoCancel, LoadResString(kUnsavedChangesTitle)});
     if (!alive || answer == Answer::Cancel)
         return false;
-    if (answer != Answer::Yes || !IsScheduleView())
+    if (answer != Answer::Yes || !isSavable)
         return true;
     SendEdits();
     return alive && !m_engine.TagDataDirty(); // what is edited while the host saves is worth another question
