@@ -3,18 +3,22 @@
 #include <QFile>
 
 #include <filesystem>
+#include <new>
 #include <system_error>
 
 namespace schedules {
 
 namespace {
 
-/// The path at the end of all links; empty when there is none.
+/// The path at the end of all links; empty when there is none. Throws when there is not the memory to look.
 QString ResolvedPath(const QString& path)
 {
     std::error_code failure;
     const std::string name = QFile::encodeName(PlatformPath(path)).toStdString();
-    return QFile::decodeName(std::filesystem::canonical(name, failure).c_str());
+    const std::filesystem::path resolved = std::filesystem::canonical(name, failure);
+    if (failure == std::errc::not_enough_memory)
+        throw std::bad_alloc();
+    return QFile::decodeName(resolved.c_str());
 }
 
 } // namespace

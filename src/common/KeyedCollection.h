@@ -44,6 +44,14 @@ public:
         return node ? node->element.member : Pointer();
     }
 
+    /// By name as `Item`, but what keeps it from looking, such as missing memory, is thrown: for whoever goes on with
+    /// what is not there.
+    Pointer Find(const QString& name) const
+    {
+        const Node* node = NodeOfName(name);
+        return node ? node->element.member : Pointer();
+    }
+
     /// The place of the member with that key.
     std::optional<Position> PlaceOf(const MemberKey& key) const noexcept
     {

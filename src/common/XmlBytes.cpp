@@ -1,5 +1,7 @@
 #include "common/XmlBytes.h"
 
+#include "common/XmlLibraryErrors.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -7,7 +9,6 @@
 
 #include <libxml/encoding.h>
 #include <libxml/tree.h>
-#include <libxml/xmlerror.h>
 #include <memory>
 #include <new>
 
@@ -23,22 +24,6 @@ Buffer NewBuffer()
     return buffer ? std::move(buffer) : throw std::bad_alloc();
 }
 
-/// The library tells of bytes that it cannot convert; nobody wants to read it.
-class SilentLibrary
-{
-public:
-    SilentLibrary() : m_context(xmlStructuredErrorContext), m_before(xmlStructuredError)
-    {
-        xmlSetStructuredErrorFunc(nullptr, [](void*, xmlErrorPtr) {});
-    }
-    ~SilentLibrary() { xmlSetStructuredErrorFunc(m_context, m_before); }
-    Q_DISABLE_COPY_MOVE(SilentLibrary)
-
-private:
-    void* m_context;
-    xmlStructuredErrorFunc m_before;
-};
-
 /// The encoding that the declaration names; empty when it names none.
 QByteArray DeclaredEncoding(const QByteArray& bytes)
 {
@@ -50,16 +35,20 @@ QByteArray DeclaredEncoding(const QByteArray& bytes)
 
 std::optional<QByteArray> FromEncoding(const QByteArray& bytes, const QByteArray& encoding)
 {
+    const XmlLibraryErrors errors;
     xmlCharEncodingHandler* handler = xmlFindCharEncodingHandler(encoding.constData());
+    errors.RequireMemory();
     if (!handler)
         return std::nullopt;
     const std::unique_ptr<xmlCharEncodingHandler, int (*)(xmlCharEncodingHandler*)> owned(handler, xmlCharEncCloseFunc);
-    const SilentLibrary silent;
     const Buffer in = NewBuffer();
     const Buffer out = NewBuffer();
     xmlBufferAdd(in.get(), reinterpret_cast<const xmlChar*>(bytes.constData()), static_cast<int>(bytes.size()));
+    errors.RequireMemory();
     while (xmlBufferLength(in.get()) > 0) {
-        if (xmlCharEncInFunc(handler, out.get(), in.get()) <= 0)
+        const bool isConverted = xmlCharEncInFunc(handler, out.get(), in.get()) > 0;
+        errors.RequireMemory();
+        if (!isConverted)
             return std::nullopt;
     }
     return QByteArray(reinterpret_cast<const char*>(xmlBufferContent(out.get())), xmlBufferLength(out.get()));

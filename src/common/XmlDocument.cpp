@@ -3,6 +3,7 @@
 #include "common/Error.h"
 #include "common/Utf8.h"
 #include "common/XmlBounds.h"
+#include "common/XmlLibraryErrors.h"
 #include "common/XmlReader.h"
 
 #include <QFile>
@@ -38,6 +39,7 @@ struct Freeing
     }
 };
 
+using Document = std::unique_ptr<xmlDoc, void (*)(xmlDoc*)>;
 using Parser = std::unique_ptr<xmlParserCtxt, Freeing<xmlFreeParserCtxt>>;
 using Buffer = std::unique_ptr<xmlBuffer, Freeing<xmlBufferFree>>;
 using LooseNode = std::unique_ptr<xmlNode, Freeing<xmlFreeNode>>;
@@ -146,18 +148,21 @@ Parser ParserOf(const QByteArray& bytes, int options)
 {
     Parser parser(Made(xmlCreateMemoryParserCtxt(bytes.constData(), static_cast<int>(bytes.size()))));
     xmlCtxtUseOptions(parser.get(), XML_PARSE_NONET | XML_PARSE_NOENT | options);
-    parser->sax->serror = [](void*, xmlErrorPtr) {};
     parser->sax->internalSubset = RefuseDocumentType;
     return parser;
 }
 
-xmlDoc* Parsed(const Parser& parser)
+/// Empty when the bytes are no document. `encoding` is theirs, whatever they declare; none when they say it themselves.
+Document Parsed(const QByteArray& bytes, xmlCharEncoding encoding)
 {
+    const XmlLibraryErrors errors;
+    const Parser parser = ParserOf(bytes, encoding == XML_CHAR_ENCODING_NONE ? 0 : XML_PARSE_IGNORE_ENC);
+    if (encoding != XML_CHAR_ENCODING_NONE)
+        xmlSwitchEncoding(parser.get(), encoding);
     xmlParseDocument(parser.get());
-    if (parser->wellFormed && parser->nsWellFormed)
-        return parser->myDoc;
-    xmlFreeDoc(parser->myDoc);
-    return nullptr;
+    Document document(parser->myDoc, xmlFreeDoc);
+    errors.RequireMemory();
+    return parser->wellFormed && parser->nsWellFormed ? std::move(document) : Document(nullptr, xmlFreeDoc);
 }
 
 bool Readable(const QByteArray& bytes)
@@ -179,10 +184,12 @@ std::optional<QString> DecodedUnicode(const QByteArray& bytes)
 
 QString Saved(xmlNode* node)
 {
+    const XmlLibraryErrors errors;
     const Buffer buffer(Made(xmlBufferCreate()));
     xmlSaveCtxt* saving = Made(xmlSaveToBuffer(buffer.get(), "UTF-8", XML_SAVE_NO_DECL | XML_SAVE_AS_XML));
     xmlSaveTree(saving, node);
     xmlSaveClose(saving);
+    errors.RequireMemory();
     return FromXml(xmlBufferContent(buffer.get()));
 }
 
@@ -338,9 +345,7 @@ XmlDocument XmlDocument::FromText(const QString& text)
     const auto utf8 = XmlUtf8(text);
     if (!utf8 || !Readable(*utf8))
         return {};
-    const Parser parser = ParserOf(*utf8, XML_PARSE_IGNORE_ENC);
-    xmlSwitchEncoding(parser.get(), XML_CHAR_ENCODING_UTF8);
-    return XmlDocument({Parsed(parser), xmlFreeDoc});
+    return XmlDocument(Parsed(*utf8, XML_CHAR_ENCODING_UTF8));
 }
 
 XmlDocument XmlDocument::FromBytes(const QByteArray& bytes)
@@ -349,7 +354,7 @@ XmlDocument XmlDocument::FromBytes(const QByteArray& bytes)
         return FromText(*text);
     if (bytes.contains('\0') || !Readable(bytes))
         return {};
-    return XmlDocument({Parsed(ParserOf(bytes, 0)), xmlFreeDoc});
+    return XmlDocument(Parsed(bytes, XML_CHAR_ENCODING_NONE));
 }
 
 XmlDocument XmlDocument::FromFile(const QString& fileName)

@@ -2,6 +2,7 @@
 
 #include "common/Utf8.h"
 #include "common/XmlBounds.h"
+#include "common/XmlLibraryErrors.h"
 
 #include <QStringEncoder>
 
@@ -90,8 +91,7 @@ public:
         xmlParseDocument(m_parser.get());
         if (m_exception)
             std::rethrow_exception(m_exception);
-        if (m_parser->errNo == XML_ERR_NO_MEMORY)
-            throw std::bad_alloc(); // else it would seem to be the document's fault
+        m_errors.RequireMemory(); // else it would seem to be the document's fault
         return m_parser->wellFormed && m_parser->nsWellFormed && !m_refused;
     }
 
@@ -114,7 +114,6 @@ private:
         sax.internalSubset = [](void* context, const xmlChar*, const xmlChar*, const xmlChar*) {
             Of(context).Refuse();
         };
-        sax.serror = [](void*, xmlErrorPtr) {};
         return sax;
     }
 
@@ -197,6 +196,7 @@ private:
         xmlStopParser(m_parser.get());
     }
 
+    const XmlLibraryErrors m_errors;
     const std::string_view m_text;
     XmlHandler& m_handler;
     std::unique_ptr<xmlParserCtxt, decltype(&xmlFreeParserCtxt)> m_parser;

@@ -2,6 +2,7 @@
 
 #include "common/Blanks.h"
 #include "model/HostList.h"
+#include "model/Inside.h"
 
 namespace schedules {
 
@@ -30,13 +31,18 @@ std::shared_ptr<CCategory> CCategories::Item(const MemberKey& key) const noexcep
     return category;
 }
 
+std::shared_ptr<CCategory> CCategories::Find(const QString& name, Inside) const
+{
+    return m_categories.Find(KeyOf(name));
+}
+
 std::shared_ptr<CCategory> CCategories::Add(const QString& name, const QString& displayName, const QString& pdsg)
 {
     return Reported(m_userInterface, kSource.In(__func__), std::shared_ptr<CCategory>(), [&] {
         const QString trimmed = TrimmedOfBlanks(name);
         if (trimmed.isEmpty())
             return std::shared_ptr<CCategory>();
-        if (const auto known = Item(trimmed)) {
+        if (const auto known = Find(trimmed, Inside())) {
             known->SetDisplayName(displayName);
             return known;
         }
@@ -61,16 +67,14 @@ void CCategories::Remove(const MemberKey&)
 
 bool CCategories::CreateObjects(const QString& categoryList)
 {
-    bool isRead = false;
-    IgnoringErrors([&] {
+    return Reported(m_userInterface, kSource.In(__func__), false, [&] {
         const auto entries = ReadHostList(categoryList, "Category");
         if (!entries)
-            return;
+            return false;
         for (const HostListEntry& entry : *entries)
             Add(entry.Text("name"), entry.Text("displayname"), entry.Text("pdsg"));
-        isRead = true;
+        return true;
     });
-    return isRead;
 }
 
 } // namespace schedules

@@ -6,6 +6,8 @@
 
 namespace schedules {
 
+class Inside;
+
 /// The categories that the host knows, found by name without regard to case.
 class CCategories
 {
@@ -17,6 +19,9 @@ public:
     /// Nothing when there is none.
     std::shared_ptr<CCategory> Item(const MemberKey& key) const noexcept;
     int Count() const { return m_categories.Count(); }
+
+    /// By name as `Item`, but throws when there is not the memory to look.
+    std::shared_ptr<CCategory> Find(const QString& name, Inside) const;
 
     /// All of them in order, as they are now.
     std::vector<std::shared_ptr<CCategory>> NewEnum() const { return m_categories.Members(); }
@@ -31,7 +36,7 @@ public:
     void Remove(const MemberKey& key);
 
     /// Adds what each element "Category" of the host's list tells by its attributes "name", "displayname" and "pdsg";
-    /// what is known stays. False when the text is no XML.
+    /// what is known stays. False when the text is no XML; also when something else fails, which is reported.
     bool CreateObjects(const QString& categoryList);
 
 private:

@@ -73,7 +73,7 @@ void CTemplates::AddListed(const std::vector<HostListEntry>& listed)
     for (const HostListEntry& next : listed) {
         Update(entry, next);
         const QString category = next.Text("category");
-        AddTemplate(entry, category.isEmpty() ? nullptr : m_categories.Item(category), Inside());
+        AddTemplate(entry, category.isEmpty() ? nullptr : m_categories.Find(category, Inside()), Inside());
     }
 }
 
@@ -82,7 +82,7 @@ std::shared_ptr<CTemplate> CTemplates::AddTemplate(const TemplateEntry& entry,
 {
     return Reported(m_userInterface, kSource.In("Add"), std::shared_ptr<CTemplate>(), [&] {
         const QString name = TrimmedOfBlanks(entry.name);
-        if (name.isEmpty() || Item(name))
+        if (name.isEmpty() || m_templates.Find(name))
             return std::shared_ptr<CTemplate>();
         const auto added = Made(entry, category);
         added->XMLToObject();

@@ -197,22 +197,29 @@ TEST_F(CTemplatesTest, AddTemplateOfAFileThatIsMissingIsListedAllTheSame)
 TEST_F(CTemplatesTest, AFailureOfAddTemplateIsReportedAndAddsNothing)
 {
     CreateThree();
-    {
-        const FailingAllocation failing(0);
-        EXPECT_EQ(Added("D", "b.xml"), nullptr);
-    }
-    EXPECT_EQ(Order(), "1 A, 2 B, 3 C");
-    EXPECT_EQ(Seen(user), "48|Schedules.CTemplates.Add|Out of memory|0|\n");
+    std::shared_ptr<CTemplate> added;
+    const auto look = [&] {
+        EXPECT_EQ(Order(), added ? "1 A, 2 B, 3 C, 4 D" : "1 A, 2 B, 3 C");
+        const bool isWhole = added && DrawnTemplate(*added) == "\n  1 Of B: Name='Of B'\n";
+        EXPECT_EQ(isWhole, user.boxes.empty()) << Seen(user);
+        EXPECT_TRUE(added || Seen(user) == "48|Schedules.CTemplates.Add|Out of memory|0|\n") << Seen(user);
+        user.boxes.clear();
+        catalogue.Remove("D");
+    };
+    EXPECT_GT(WithEachFailing([&] { added = Added("D", "b.xml"); }, look), 5);
+    EXPECT_NE(added, nullptr);
 }
 
 TEST_F(CTemplatesTest, AFailureOfTheLookupByFileIsReported)
 {
     CreateThree();
     int id = 0;
-    {
-        const FailingAllocation failing(0);
-        id = catalogue.TemplateIDFromFileName("b.xml");
-    }
-    EXPECT_EQ(id, -1);
-    EXPECT_EQ(Seen(user), "48|Schedules.CTemplates.TemplateIDFromFileName|Out of memory|0|\n");
+    const auto look = [&] {
+        const bool isFound = id == 2;
+        EXPECT_EQ(id, isFound ? 2 : -1);
+        EXPECT_EQ(Seen(user), isFound ? "" : "48|Schedules.CTemplates.TemplateIDFromFileName|Out of memory|0|\n");
+        user.boxes.clear();
+    };
+    EXPECT_GT(WithEachFailing([&] { id = catalogue.TemplateIDFromFileName("b.xml"); }, look), 0);
+    EXPECT_EQ(id, 2);
 }

@@ -33,6 +33,20 @@ bool FailingAllocation::HasFailed() const
     return g_successes == kNever;
 }
 
+int WithEachFailing(const std::function<void()>& step, const std::function<void()>& look)
+{
+    int failures = -1;
+    for (bool hasFailed = true; hasFailed; ++failures) {
+        {
+            const FailingAllocation failing(failures + 1);
+            step();
+            hasFailed = failing.HasFailed();
+        }
+        look();
+    }
+    return failures;
+}
+
 } // namespace schedules::testing
 
 void* operator new(std::size_t size)
