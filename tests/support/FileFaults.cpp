@@ -11,7 +11,10 @@
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
+#include <iterator>
 #include <linux/filter.h>
+#include <linux/fs.h>
+#include <linux/openat2.h>
 #include <linux/seccomp.h>
 #include <string_view>
 #include <sys/prctl.h>
@@ -38,20 +41,33 @@ struct KnownCall
     int name = kNoName;
 };
 
+/// Where a call has two files, it is there twice; the first that is watched counts.
 constexpr std::array kKnownCalls{
     KnownCall{SYS_openat, FileOperation::Open, 0, 1},
+    KnownCall{SYS_openat2, FileOperation::Open, 0, 1},
     KnownCall{SYS_mkdirat, FileOperation::Open, 0, 1},
+    KnownCall{SYS_mknodat, FileOperation::Open, 0, 1},
+    KnownCall{SYS_symlinkat, FileOperation::Open, 1, 2},
     KnownCall{SYS_read, FileOperation::Read, 0},
     KnownCall{SYS_pread64, FileOperation::Read, 0},
+    KnownCall{SYS_readv, FileOperation::Read, 0},
+    KnownCall{SYS_preadv, FileOperation::Read, 0},
     KnownCall{SYS_write, FileOperation::Write, 0},
     KnownCall{SYS_pwrite64, FileOperation::Write, 0},
     KnownCall{SYS_writev, FileOperation::Write, 0},
+    KnownCall{SYS_pwritev, FileOperation::Write, 0},
+    KnownCall{SYS_sendfile, FileOperation::Write, 0},
+    KnownCall{SYS_sendfile, FileOperation::Read, 1},
     KnownCall{SYS_fsync, FileOperation::Flush, 0},
     KnownCall{SYS_fdatasync, FileOperation::Flush, 0},
+    KnownCall{SYS_syncfs, FileOperation::Flush, 0},
     KnownCall{SYS_renameat, FileOperation::Rename, 2, 3},
+    KnownCall{SYS_renameat, FileOperation::Rename, 0, 1},
     KnownCall{SYS_renameat2, FileOperation::Rename, 2, 3},
+    KnownCall{SYS_renameat2, FileOperation::Rename, 0, 1},
     KnownCall{SYS_linkat, FileOperation::Rename, 2, 3},
     KnownCall{SYS_unlinkat, FileOperation::Delete, 0, 1},
+    KnownCall{SYS_truncate, FileOperation::Truncate, kCurrentFolder, 0},
     KnownCall{SYS_ftruncate, FileOperation::Truncate, 0},
     KnownCall{SYS_fallocate, FileOperation::Truncate, 0},
     KnownCall{SYS_close, FileOperation::Close, 0},
@@ -59,12 +75,19 @@ constexpr std::array kKnownCalls{
     KnownCall{SYS_open, FileOperation::Open, kCurrentFolder, 0},
     KnownCall{SYS_creat, FileOperation::Open, kCurrentFolder, 0},
     KnownCall{SYS_mkdir, FileOperation::Open, kCurrentFolder, 0},
+    KnownCall{SYS_mknod, FileOperation::Open, kCurrentFolder, 0},
+    KnownCall{SYS_symlink, FileOperation::Open, kCurrentFolder, 1},
     KnownCall{SYS_rename, FileOperation::Rename, kCurrentFolder, 1},
+    KnownCall{SYS_rename, FileOperation::Rename, kCurrentFolder, 0},
     KnownCall{SYS_link, FileOperation::Rename, kCurrentFolder, 1},
     KnownCall{SYS_unlink, FileOperation::Delete, kCurrentFolder, 0},
     KnownCall{SYS_rmdir, FileOperation::Delete, kCurrentFolder, 0},
 #endif
 };
+
+/// Other ways to files: they take six arguments, or do not say which file. Nothing here uses them.
+constexpr std::array kForeignCalls{SYS_preadv2,   SYS_pwritev2,       SYS_copy_file_range, SYS_splice,
+                                   SYS_io_submit, SYS_io_uring_setup, SYS_io_uring_enter,  SYS_open_by_handle_at};
 
 /// The arguments of a call, and where the kernel looks for what it gave.
 #if defined(__x86_64__)
@@ -187,12 +210,37 @@ long GoneWrong(const KnownCall& call, Arguments arguments)
     return -g_watch.fault->code;
 }
 
+/// How a file is opened; 0 when it is not, or by a call that cannot list.
+long OpenFlags(const KnownCall& call, const Arguments& arguments)
+{
+    constexpr std::size_t kHow = 2;
+    if (call.number == SYS_openat2)
+        return static_cast<long>(reinterpret_cast<const open_how*>(arguments[kHow])->flags);
+    return call.number == SYS_openat ? arguments[kHow] : 0;
+}
+
 FileOperation OperationOf(const KnownCall& call, const Arguments& arguments)
 {
-    if (call.number != SYS_openat)
-        return call.operation;
-    const bool lists = (arguments[2] & O_TMPFILE) == O_DIRECTORY; // the one has the bit of the other
-    return lists ? FileOperation::List : FileOperation::Open;
+    const bool lists = (OpenFlags(call, arguments) & O_TMPFILE) == O_DIRECTORY; // the one has the bit of the other
+    return lists ? FileOperation::List : call.operation;
+}
+
+/// Whether a call may read or write a file without being seen.
+bool IsForeign(long number, const Arguments& arguments)
+{
+    if (number != SYS_ioctl)
+        return std::ranges::count(kForeignCalls, number) != 0;
+    const auto request = static_cast<unsigned long>(arguments[1]);
+    return request == FICLONE || request == FICLONERANGE || request == FIDEDUPERANGE;
+}
+
+[[noreturn]] void EndForForeign(long number)
+{
+    std::array<char, 128> line{};
+    const int length = std::snprintf(
+        line.data(), line.size(), "The system call %ld may write files, and FileFaults does not watch it.\n", number);
+    [[maybe_unused]] const long written = ::write(STDERR_FILENO, line.data(), static_cast<std::size_t>(length));
+    ::_exit(kForeignCall);
 }
 
 void OnCall(int, siginfo_t* info, void* context)
@@ -200,14 +248,17 @@ void OnCall(int, siginfo_t* info, void* context)
     const int before = errno;
     mcontext_t& machine = static_cast<ucontext_t*>(context)->uc_mcontext;
     const Arguments arguments = ArgumentsIn(machine);
-    const auto call = std::ranges::find(kKnownCalls, info->si_syscall, &KnownCall::number);
-    const bool isSeen = call != kKnownCalls.end() && IsWatched(PathOf(*call, arguments));
-    const bool goesWrong = isSeen && GoesWrong(OperationOf(*call, arguments));
+    if (IsForeign(info->si_syscall, arguments))
+        EndForForeign(info->si_syscall);
+    const auto call = std::ranges::find_if(kKnownCalls, [&](const KnownCall& known) {
+        return known.number == info->si_syscall && IsWatched(PathOf(known, arguments));
+    });
+    const bool goesWrong = call != kKnownCalls.end() && GoesWrong(OperationOf(*call, arguments));
     SetResult(machine, goesWrong ? GoneWrong(*call, arguments) : Passed(info->si_syscall, arguments));
     errno = before;
 }
 
-/// The kernel's rules: what is known is handed over, everything else passes.
+/// The kernel's rules: ways to files are handed over, everything else passes.
 std::vector<sock_filter> Rules()
 {
     const auto load = [](std::size_t field) {
@@ -219,8 +270,11 @@ std::vector<sock_filter> Rules()
     };
     std::vector<sock_filter> rules{load(offsetof(seccomp_data, args) + 5 * sizeof(__u64)), when(kPass),
                                    end(SECCOMP_RET_ALLOW), load(offsetof(seccomp_data, nr))};
-    for (const KnownCall& call : kKnownCalls)
-        rules.insert(rules.end(), {when(call.number), end(SECCOMP_RET_TRAP)});
+    std::vector<long> watched(kForeignCalls.begin(), kForeignCalls.end());
+    std::ranges::transform(kKnownCalls, std::back_inserter(watched), &KnownCall::number);
+    watched.push_back(SYS_ioctl);
+    for (const long call : watched)
+        rules.insert(rules.end(), {when(call), end(SECCOMP_RET_TRAP)});
     rules.push_back(end(SECCOMP_RET_ALLOW));
     return rules;
 }

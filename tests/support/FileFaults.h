@@ -48,9 +48,16 @@ std::string Drawn(const FileFault& fault);
 /// Sees what this process does with files below a folder from now on, whichever library does it, and makes one of the
 /// operations go wrong. False when this system cannot.
 ///
-/// The kernel itself hands the calls over, so that nothing is missed, such as what the C library's streams do. It does
-/// so until the process ends, and no program that is started meanwhile survives it: only for an `OwnProcess`.
+/// The kernel itself hands the calls over, so that no call is missed, such as what the C library's streams do. A call
+/// that could read or write files and cannot be watched, on whichever file, ends the process with `kForeignCall`, so
+/// that a test fails which would not see it. What is written through memory that a file is mapped into is no call, and
+/// cannot be seen: whoever relies on this reads back all that is there afterwards.
+///
+/// It watches until the process ends, and no program that is started meanwhile survives it: only for an `OwnProcess`.
 bool WatchFiles(const QString& folder, const std::optional<FileFault>& fault = {});
+
+/// What a process ends with that reads or writes files by a call that is not watched.
+constexpr int kForeignCall = 125;
 
 /// What has been seen so far.
 FileCounts SeenOperations();

@@ -11,11 +11,16 @@ namespace schedules::testing {
 
 /// A step that runs in a process of its own, on a copy of all that there is in this one. It ends without any clean-up,
 /// and is ended when it takes a minute.
+///
+/// What goes wrong in the step shows in how it ends: checks that fail there are printed and otherwise lost.
 class OwnProcess
 {
 public:
     /// Says something to the process that waits.
     using Tell = std::function<void(std::string_view)>;
+
+    /// What it ends with when a check has failed in the step, or when that has thrown.
+    static constexpr int kFailed = 126;
 
     explicit OwnProcess(const std::function<void(const Tell& tell)>& step);
     ~OwnProcess();

@@ -41,6 +41,7 @@ struct State
     int successes = 0;
     FailingMemory::Lasting lasting = FailingMemory::Lasting::Once;
     bool hasFailed = false;
+    std::vector<int>* ours = nullptr; ///< where they are gathered; then none fails
 };
 thread_local State g_state;
 
@@ -71,17 +72,29 @@ bool IsOurs()
     return caller == callers.end() || FileOf(*caller).find("/libSchedules.") != std::string_view::npos;
 }
 
+/// Whether the allocation at a place is to fail, if it is ours.
+bool IsMeant(int place)
+{
+    return place == g_state.successes ||
+           (g_state.lasting == FailingMemory::Lasting::FromThenOn && place > g_state.successes);
+}
+
+/// Runs while nothing is watched: to look at the callers may need memory, too.
+bool FailsAt(int place)
+{
+    if (!g_state.ours)
+        return IsMeant(place) && IsOurs();
+    if (IsOurs())
+        g_state.ours->push_back(place);
+    return false;
+}
+
 bool Fails()
 {
     if (!g_state.watches)
         return false;
-    const int place = g_state.allocations++;
-    const bool isMeant = place == g_state.successes ||
-                         (g_state.lasting == FailingMemory::Lasting::FromThenOn && place > g_state.successes);
-    if (!isMeant)
-        return false;
-    g_state.watches = false; // to look at the callers may need memory, too
-    const bool fails = IsOurs();
+    g_state.watches = false;
+    const bool fails = FailsAt(g_state.allocations++);
     g_state.watches = true;
     g_state.hasFailed |= fails;
     if (fails)
@@ -95,7 +108,7 @@ namespace schedules::testing {
 
 FailingMemory::FailingMemory(int successes, Lasting lasting)
 {
-    g_state = {true, 0, successes, lasting};
+    g_state = {.watches = true, .successes = successes, .lasting = lasting};
 }
 
 FailingMemory::~FailingMemory()
@@ -103,14 +116,18 @@ FailingMemory::~FailingMemory()
     g_state.watches = false;
 }
 
-int FailingMemory::Allocations() const
-{
-    return g_state.allocations;
-}
-
 bool FailingMemory::HasFailed() const
 {
     return g_state.hasFailed;
+}
+
+std::vector<int> OurAllocations(const std::function<void()>& step)
+{
+    std::vector<int> ours;
+    g_state = {.watches = true, .ours = &ours};
+    step();
+    g_state = {};
+    return ours;
 }
 
 } // namespace schedules::testing

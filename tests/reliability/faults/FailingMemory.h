@@ -1,12 +1,13 @@
 #pragma once
 
-#include <limits>
+#include <functional>
+#include <vector>
 
 namespace schedules::testing {
 
 /// While it lives, one of the allocations of this process fails, or all from one on, whether our own code asks for it
-/// or Qt's core, the C++ library or libxml2 for our code. What Qt's windows and fonts ask for does not fail: they do
-/// not look whether they get it.
+/// or Qt's core, the C++ library or libxml2 for our code: these are ours. What Qt's windows and fonts ask for does not
+/// fail: they do not look whether they get it.
 class FailingMemory
 {
 public:
@@ -23,14 +24,11 @@ public:
     FailingMemory(const FailingMemory&) = delete;
     FailingMemory& operator=(const FailingMemory&) = delete;
 
-    /// How many allocations there were, failed ones included.
-    int Allocations() const;
-
     /// Whether one has failed.
     bool HasFailed() const;
 };
 
-/// None fails: for counting them.
-constexpr int kEnoughMemory = std::numeric_limits<int>::max();
+/// How many allocations come before each of ours, while `step` runs with enough memory.
+std::vector<int> OurAllocations(const std::function<void()>& step);
 
 } // namespace schedules::testing

@@ -17,8 +17,6 @@ namespace schedules::host::testing {
 
 namespace {
 
-constexpr auto kDamaged = "damaged";
-
 QByteArray ContentOf(const QString& fileName)
 {
     QFile file(fileName);
@@ -34,13 +32,14 @@ void Write(const QString& fileName, const QByteArray& content)
     EXPECT_EQ(file.write(content), content.size());
 }
 
-/// What a program prints; "damaged" when it fails.
+/// What a program prints; `kDamaged` when it fails.
 std::string Output(const QString& program, const QStringList& arguments)
 {
     QProcess process;
     process.start(program, arguments);
     EXPECT_TRUE(process.waitForFinished()) << qPrintable(program);
-    return process.exitCode() == 0 ? process.readAllStandardOutput().toStdString() : kDamaged;
+    const bool isDone = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    return isDone ? process.readAllStandardOutput().toStdString() : kDamaged;
 }
 
 /// Each page says when it was printed.

@@ -26,6 +26,9 @@ public:
     /// Whether a file that was not there before may be found unfinished after the program was killed, or could not take
     /// it away again.
     virtual bool MayStayUnfinished() const { return false; }
+
+    /// Whether a file of that name, with that text, is how this saving tells of a failure.
+    virtual bool TellsOfFailure(const std::string& /*name*/, const std::string& /*text*/) const { return false; }
 };
 
 struct SavingKind

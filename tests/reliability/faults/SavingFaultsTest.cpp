@@ -62,6 +62,8 @@ TEST_P(SavingFaults, LeaveWhatWasThereOrWhatIsNew)
     ASSERT_GT(saving.Counts().back(), 3);
     for (const FileFault& fault : faults)
         saving.ExpectSurvives(fault);
+    RecordProperty("operations", saving.Counts().back());
+    RecordProperty("faults", static_cast<int>(faults.size()));
     std::cout << saving.Counts().back() << " operations, " << faults.size() << " faults\n";
 }
 

@@ -12,8 +12,11 @@
 #include "host/import/SampleProject.h"
 #include "host/project/StoredProject.h"
 #include "support/ModalDialog.h"
+#include "support/ScriptedUserInterface.h"
+#include "support/TraceLog.h"
 
 #include <QAbstractItemView>
+#include <QAction>
 #include <QComboBox>
 #include <QDialog>
 #include <QLineEdit>
@@ -26,6 +29,8 @@ namespace schedules::host::testing {
 namespace {
 
 using schedules::testing::OnceModal;
+using schedules::testing::ScriptedUserInterface;
+using schedules::testing::TraceLog;
 
 void Write(const QString& fileName, const QByteArray& content)
 {
@@ -80,6 +85,91 @@ private:
     Before m_before;
     QString m_fileName;
     std::optional<LoadedTool> m_tool;
+};
+
+/// The commands of the view that export, with a user who names the file.
+class ExportCommand : public Saving
+{
+public:
+    ExportCommand(const char* command, const char* fileName, Before before)
+        : m_command(command), m_name(fileName), m_before(before)
+    {
+    }
+
+    void Prepare(const QString& folder) override
+    {
+        m_fileName = folder + '/' + m_name;
+        if (m_before == Before::AFile) {
+            Write(m_fileName, "what there was before");
+            Write(LogName(), "why it was not written before");
+        }
+        m_session.emplace(CommandLine());
+        m_tool.emplace(m_session->Router(), &m_user, ViewOptions{.view = View::Schedule});
+        m_tool->Load(ReadXmlFile(QStringLiteral(SCHEDULES_SOURCE_DIR "/samples/air-handling.xml")));
+        EXPECT_TRUE(m_user.boxes.empty());
+    }
+
+    QString Save() override
+    {
+        const TraceLog trace;
+        m_user.fileNames = {m_fileName};
+        m_tool->Widget().findChild<QAction*>(m_command)->trigger();
+        EXPECT_EQ(m_user.questions.size(), 1u);
+        return ToldFailure(m_user.boxes, trace.lines);
+    }
+
+protected:
+    QString FileName() const { return m_fileName; }
+    QString LogName() const { return m_fileName + ".LOG"; }
+
+private:
+    virtual QString ToldFailure(const std::vector<MessageBox>& boxes, const QStringList& trace) const = 0;
+
+    const char* m_command;
+    const char* m_name;
+    Before m_before;
+    QString m_fileName;
+    ScriptedUserInterface m_user;
+    std::optional<Session> m_session;
+    std::optional<ScheduleTool> m_tool;
+};
+
+/// Tells a failure in the trace alone, as its protocol wants.
+class WorkbookCommand : public ExportCommand
+{
+public:
+    explicit WorkbookCommand(Before before) : ExportCommand("btnExport", "schedule.xls", before) {}
+
+private:
+    QString ToldFailure(const std::vector<MessageBox>& boxes, const QStringList& trace) const override
+    {
+        EXPECT_TRUE(boxes.empty());
+        return trace.filter("Schedules.ctlSchedule.ExportToExcel: ").join('\n');
+    }
+};
+
+/// Tells in a box whether it has succeeded, and of a failure in a file beside the page, too.
+class PageCommand : public ExportCommand
+{
+public:
+    explicit PageCommand(Before before) : ExportCommand("mnuExportHtml", "schedule.htm", before) {}
+
+    bool TellsOfFailure(const std::string& name, const std::string& text) const override
+    {
+        const std::string begin = FileName().toStdString() + ": ";
+        return name == "schedule.htm.LOG" && text.starts_with(begin) && text.find('\n') == text.size() - 1;
+    }
+
+private:
+    QString ToldFailure(const std::vector<MessageBox>& boxes, const QStringList&) const override
+    {
+        EXPECT_EQ(boxes.size(), 1u);
+        if (boxes.empty())
+            return {};
+        const bool isSuccess = boxes.front().style == kInformation;
+        EXPECT_TRUE(boxes.front().text.endsWith(isSuccess ? FileName() : LogName()));
+        return isSuccess ? QString() : boxes.front().text;
+    }
 };
 
 /// The edited schedule that a host keeps in a file.
@@ -264,7 +354,11 @@ std::vector<SavingKind> AllSavings()
                                 {"Values", Made<ProjectSaving>(NothingElse, SaveValues)},
                                 {"TemplateList", Made<ProjectSaving>(ListDay, ListNight)},
                                 {"TemplateFolder", Made<ProjectSaving>(LayOutDay, LayOut)},
-                                {"NewProject", Made<ProjectMade>()}};
+                                {"NewProject", Made<ProjectMade>()},
+                                {"WorkbookCommand", Made<WorkbookCommand>(Before::AFile)},
+                                {"New_WorkbookCommand", Made<WorkbookCommand>(Before::Nothing)},
+                                {"PageCommand", Made<PageCommand>(Before::AFile)},
+                                {"New_PageCommand", Made<PageCommand>(Before::Nothing)}};
     for (const char* format : {"xls", "xlsx", "csv", "html", "pdf", "png"}) {
         all.push_back({format, Made<Export>(QString(format), Before::AFile)});
         all.push_back({std::string("New_") + format, Made<Export>(QString(format), Before::Nothing)});

@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <csignal>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <set>
+#include <sstream>
 
 namespace schedules::host::testing {
 
@@ -23,23 +25,41 @@ std::string Told(const FileCounts& counts)
 {
     std::string told;
     for (const int count : counts)
-        told += std::to_string(count) + ' ';
+        told += ' ' + std::to_string(count);
     return told;
 }
 
-FileCounts CountsIn(const std::string& told)
+/// What a try that has ended tells.
+struct Outcome
 {
     FileCounts counts{};
-    std::istringstream words(told);
-    for (int& count : counts)
+    std::string failure; ///< what the user was told
+};
+
+/// Nothing of a try that has not ended.
+std::optional<Outcome> OutcomeIn(std::string_view told)
+{
+    if (!told.starts_with(kBegun) || !told.ends_with(kEnded))
+        return std::nullopt;
+    Outcome outcome;
+    std::istringstream words(std::string(told.substr(kBegun.size(), told.size() - kBegun.size() - kEnded.size())));
+    for (int& count : outcome.counts)
         words >> count;
-    return counts;
+    words.ignore();
+    outcome.failure.assign(std::istreambuf_iterator<char>(words), {});
+    return outcome;
 }
 
 bool HindersDeleting(const FileFault& fault)
 {
     return fault.operation == FileOperation::Delete || fault.operation == FileOperation::List ||
            fault.operation == FileOperation::Any;
+}
+
+void ExpectSound(const std::map<std::string, std::string>& files)
+{
+    for (const auto& [name, drawing] : files)
+        EXPECT_FALSE(drawing.starts_with(kDamaged)) << name << ": " << drawing;
 }
 
 std::string TextOf(const std::map<std::string, std::string>& files, const std::string& name)
@@ -57,11 +77,14 @@ TriedSaving::TriedSaving(const SavingKind& kind) : m_saving(kind.make())
     m_before = FilesIn(Folder());
     m_former = DrawnFilesIn(Folder());
     const auto [told, failure] = Begin()->Await();
+    const auto outcome = OutcomeIn(told).value_or(Outcome{{}, "it did not end"});
     EXPECT_EQ(failure, 0) << told;
-    EXPECT_TRUE(told.starts_with(kBegun) && told.ends_with(kEnded)) << told;
-    m_counts = CountsIn(told.substr(kBegun.size()));
+    EXPECT_EQ(outcome.failure, "");
+    m_counts = outcome.counts;
     m_new = DrawnFilesIn(Folder());
     EXPECT_NE(m_new, m_former);
+    ExpectSound(m_former);
+    ExpectSound(m_new);
     Restore(Folder(), m_before);
 }
 
@@ -69,14 +92,10 @@ std::unique_ptr<OwnProcess> TriedSaving::Begin(const std::optional<FileFault>& f
 {
     return std::make_unique<OwnProcess>([&](const OwnProcess::Tell& tell) {
         qputenv("TMPDIR", QFile::encodeName(Folder() + "/temporary"));
-        if (!schedules::testing::WatchFiles(Folder(), fault))
-            return;
+        ASSERT_TRUE(schedules::testing::WatchFiles(Folder(), fault));
         tell(kBegun);
         const QString failure = m_saving->Save();
-        if (fault)
-            tell(failure.toStdString());
-        else
-            tell(Told(schedules::testing::SeenOperations()) + failure.toStdString());
+        tell(Told(schedules::testing::SeenOperations()) + '\n' + failure.toStdString());
         tell(kEnded);
     });
 }
@@ -98,6 +117,8 @@ bool TriedSaving::ExpectOneOf(const std::string& name, const Drawing& now, Lefto
 {
     const std::string text = TextOf(now, name);
     const bool isNew = text == TextOf(m_new, name);
+    if (!isNew && m_saving->TellsOfFailure(name, text))
+        return false;
     const bool isNoResult = !m_new.contains(name) || m_saving->MayStayUnfinished();
     const bool isLeft = !isNew && now.contains(name) && !m_former.contains(name) && isNoResult;
     if (isLeft)
@@ -111,18 +132,23 @@ void TriedSaving::ExpectSurvives(const FileFault& fault)
 {
     SCOPED_TRACE(Drawn(fault));
     const auto [told, failure] = Begin(fault)->Await();
-    ASSERT_EQ(failure, 0) << told;
-    const bool wasTold = told.size() > kBegun.size() + kEnded.size();
+    const auto outcome = OutcomeIn(told);
     const bool allNew = ExpectFormerOrNew(HindersDeleting(fault) ? Leftovers::Allowed : Leftovers::None);
-    EXPECT_TRUE(allNew || wasTold) << "nobody was told";
+    ASSERT_TRUE(failure == 0 && outcome) << failure << ' ' << told;
+    EXPECT_GT(outcome->counts[static_cast<std::size_t>(fault.operation)], fault.index) << "there was no such operation";
+    EXPECT_TRUE(allNew || !outcome->failure.empty()) << "nobody was told";
 }
 
-void TriedSaving::ExpectSurvivesDeath(OwnProcess& process)
+bool TriedSaving::ExpectSurvivesDeath(OwnProcess& process)
 {
     const auto [told, failure] = process.Await();
-    ASSERT_TRUE(failure == SIGKILL || told.ends_with(kEnded)) << failure << ' ' << told;
+    const auto outcome = OutcomeIn(told);
     const bool allNew = ExpectFormerOrNew(Leftovers::Allowed);
-    EXPECT_TRUE(allNew || !told.ends_with(kEnded));
+    EXPECT_TRUE(failure == SIGKILL || failure == 0) << failure << ' ' << told;
+    EXPECT_TRUE(failure == SIGKILL || outcome) << told;
+    EXPECT_TRUE(allNew || !outcome) << "what was told to be saved is not there";
+    EXPECT_EQ(outcome.value_or(Outcome()).failure, "");
+    return !outcome;
 }
 
 } // namespace schedules::host::testing

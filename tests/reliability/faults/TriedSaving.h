@@ -13,7 +13,7 @@ namespace schedules::host::testing {
 class TriedSaving
 {
 public:
-    /// Saves once without any fault, to know what should be there then.
+    /// Saves once without any fault, to know what should be there then: all of it sound, and no failure told.
     explicit TriedSaving(const SavingKind& kind);
 
     /// How often that has done each file operation.
@@ -34,11 +34,13 @@ public:
     /// before then.
     bool ExpectFormerOrNew(Leftovers leftovers);
 
-    /// A try with a fault: the same, and unless all are as they should be the user has been told.
+    /// A try with a fault, to which it must come: the same, and unless all are as they should be the user has been
+    /// told.
     void ExpectSurvives(const schedules::testing::FileFault& fault);
 
-    /// The process of another try is over, and was killed; the same again. What it had ended is there.
-    void ExpectSurvivesDeath(schedules::testing::OwnProcess& process);
+    /// The process of another try has been killed; the same again. When it had ended before, what it saved is there.
+    /// Whether it died before it had ended.
+    bool ExpectSurvivesDeath(schedules::testing::OwnProcess& process);
 
 private:
     using Drawing = std::map<std::string, std::string>;
