@@ -96,4 +96,15 @@ TEST(MessageModel, ABodyThatIsNoMessageIsShownAsItIs)
     EXPECT_EQ(Line(model, 0)[MessageModel::Parameters], "nonsense");
 }
 
+TEST(MessageModel, KeepsTheLastThousand)
+{
+    MessageModel model;
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    for (int number = 1; number <= 1002; ++number)
+        model.Append(HelpCrossing(QString::number(number)));
+    ASSERT_EQ(model.rowCount(), 1000);
+    EXPECT_EQ(Line(model, 0)[MessageModel::Parameters], "ContextID = \"20\"; Form = \"3\"");
+    EXPECT_EQ(Line(model, 999)[MessageModel::Parameters], "ContextID = \"20\"; Form = \"1002\"");
+}
+
 } // namespace schedules::host

@@ -111,6 +111,19 @@ TEST_F(SchedhostValues, AnItemThatMayNotBeEditedIsToldAndLeft)
     EXPECT_EQ(StoredText("P-1", kService), "Füllen");
 }
 
+TEST_F(SchedhostValues, ACheckBoxTakesFlagsAlone)
+{
+    const QString spare = QStringLiteral("PUMPS/Vendor/Spare");
+    Stored()->Put({.items = {{spare, "Spare", "Vendor", "CHECKBOX", ""}}});
+    for (const auto& [said, stored] : {std::pair("1", "1"), std::pair("FALSE", "0"), std::pair("true", "1")}) {
+        ExpectSet({"P-1", "Spare", said});
+        EXPECT_EQ(StoredText("P-1", spare), stored) << said;
+    }
+    EXPECT_EQ(Failed("set", {"P-1", "Spare", "yes"}),
+              "PUMPS/Vendor/Spare is a check box, which takes 1 or 0, not 'yes'");
+    EXPECT_EQ(StoredText("P-1", spare), "1");
+}
+
 TEST_F(SchedhostValues, AValueThatSomebodyElseStoresMeanwhileIsLeftAndExitCode3)
 {
     const auto project = Stored();

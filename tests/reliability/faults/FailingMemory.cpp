@@ -89,7 +89,8 @@ bool FailsAt(int place)
     return false;
 }
 
-bool Fails()
+/// Runs while the sanitizer starts, too, when it cannot look at memory yet.
+[[gnu::no_sanitize_address]] bool Fails()
 {
     if (!g_state.watches)
         return false;
