@@ -1,5 +1,7 @@
 #include "grid/CellAttributes.h"
 
+#include "common/Utf8.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -94,8 +96,7 @@ DataType DataTypeNamed(std::string_view text)
         return DataType::Text;
     if (IsNumber(trimmed))
         return DataType::Number;
-    const QByteArray upper =
-        QString::fromUtf8(trimmed.data(), static_cast<qsizetype>(trimmed.size())).toUpper().toUtf8();
+    const QByteArray upper = FromUtf8(trimmed).toUpper().toUtf8();
     const auto found = std::ranges::find(kDataTypes, std::string_view(upper), &decltype(kDataTypes)::value_type::first);
     return found == kDataTypes.end() ? DataType::Text : found->second;
 }

@@ -1,5 +1,6 @@
 #include "spread/RowSort.h"
 
+#include "common/Utf8.h"
 #include "spread/NumberReader.h"
 
 #include <QCollator>
@@ -52,7 +53,7 @@ public:
         if (const auto found = m_known.find(utf8); found != m_known.end())
             return found->second;
         const int number = static_cast<int>(m_keys.size());
-        m_keys.push_back(m_collator.sortKey(QString::fromUtf8(utf8.data(), std::ssize(utf8))));
+        m_keys.push_back(m_collator.sortKey(FromUtf8(utf8)));
         if (m_known.size() < kMostRemembered)
             m_known.emplace(utf8, number);
         return number;
@@ -76,8 +77,7 @@ bool IsVisibleAscii(char byte)
 bool IsBlank(std::string_view utf8)
 {
     // One visible character is enough, and nearly all texts have one that needs no conversion.
-    return std::ranges::none_of(utf8, IsVisibleAscii) &&
-           QString::fromUtf8(utf8.data(), std::ssize(utf8)).trimmed().isEmpty();
+    return std::ranges::none_of(utf8, IsVisibleAscii) && FromUtf8(utf8).trimmed().isEmpty();
 }
 
 /// The rows of a sheet while they are being sorted, counted from 0.

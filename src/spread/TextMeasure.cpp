@@ -1,5 +1,7 @@
 #include "spread/TextMeasure.h"
 
+#include "common/Utf8.h"
+
 #include <QString>
 
 #include <algorithm>
@@ -62,7 +64,7 @@ TextMeasure::TextMeasure(const QFont& font)
 
 int TextMeasure::Exact(std::string_view utf8, bool bold) const
 {
-    const QString text = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+    const QString text = FromUtf8(utf8);
     double width = 0;
     for (qsizetype from = 0; from < text.size(); from += kMostAtOnce)
         width += FaceOf(bold).metrics.horizontalAdvance(text.mid(from, kMostAtOnce));

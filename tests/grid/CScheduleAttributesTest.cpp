@@ -295,7 +295,7 @@ TEST(DataTypeNamed, KnowsTheSixNamesAndNumbers)
     EXPECT_EQ(DataTypeNamed("checkBox"), DataType::CheckBox);
     EXPECT_EQ(DataTypeNamed("12"), DataType::Number);
     EXPECT_EQ(DataTypeNamed(" -5 "), DataType::Number);
-    for (const char* text : {"", "  ", "TEXT", "CHECKBOXES", "INTEGER LONG", "Ж"})
+    for (const char* text : {"", "  ", "TEXT", "CHECKBOXES", "INTEGER LONG", "Ж", "\uFEFFCHECKBOX"})
         EXPECT_EQ(DataTypeNamed(text), DataType::Text) << text;
 }
 
