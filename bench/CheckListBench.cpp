@@ -1,7 +1,7 @@
 // What moving one entry of a check list costs, repainting included, in lists of 100, 1,000 and 10,000 entries: the same
 // number of moves for each size, so the ratios say how the cost of one grows. "own" is the smallest size.
 
-#include "controls/CheckList.h"
+#include "controls/lists/CheckList.h"
 
 #include <QApplication>
 

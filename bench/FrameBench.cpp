@@ -3,7 +3,7 @@
 
 #include "Documents.h"
 #include "Quiet.h"
-#include "controls/SpreadView.h"
+#include "controls/grid/SpreadView.h"
 #include "grid/CSchedule.h"
 
 #include <QAbstractTableModel>

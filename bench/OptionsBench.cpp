@@ -3,7 +3,7 @@
 
 #include "Quiet.h"
 #include "TemplateFolder.h"
-#include "controls/CheckList.h"
+#include "controls/lists/CheckList.h"
 #include "framework/IMsgRouter.h"
 #include "framework/Message.h"
 #include "tools/options/ctlSchedOptions.h"

@@ -3,9 +3,9 @@
 
 #include "Documents.h"
 #include "Quiet.h"
-#include "controls/PreviewStage.h"
-#include "controls/SheetPrinter.h"
-#include "controls/SheetPrinterFonts.h"
+#include "controls/paper/PreviewStage.h"
+#include "controls/paper/SheetPrinter.h"
+#include "controls/paper/SheetPrinterFonts.h"
 #include "grid/CSchedule.h"
 
 #include <QBuffer>

@@ -23,11 +23,16 @@ if(PROJECT_IS_TOP_LEVEL)
     endif()
 endif()
 
-# schedules_layer(NAME LINK libraries...): all sources of the current folder, as objects that the component, the tests
-# and the benchmarks share, so that each file is compiled once. A folder is a layer, so its files need no second list.
+# schedules_layer(NAME ROOMS folders... LINK libraries...): all sources of the current folder and of its rooms, as objects
+# that the component, the tests and the benchmarks share, so that each file is compiled once. A folder is a layer, so its
+# files need no second list.
 function(schedules_layer name)
-    cmake_parse_arguments(LAYER "" "" "LINK" ${ARGN})
-    file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+    cmake_parse_arguments(LAYER "" "" "ROOMS;LINK" ${ARGN})
+    set(patterns *.cpp *.h)
+    foreach(room IN LISTS LAYER_ROOMS)
+        list(APPEND patterns ${room}/*.cpp ${room}/*.h)
+    endforeach()
+    file(GLOB sources CONFIGURE_DEPENDS ${patterns})
     add_library(${name} OBJECT ${sources})
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
     target_link_libraries(${name} PUBLIC ${LAYER_LINK})

@@ -1,4 +1,4 @@
-#include "controls/AxisLayout.h"
+#include "controls/grid/AxisLayout.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "controls/CellContent.h"
+#include "controls/cells/CellContent.h"
 
 #include "controls/DrawnSheet.h"
 

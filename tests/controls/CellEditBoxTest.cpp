@@ -1,4 +1,4 @@
-#include "controls/CellEditBox.h"
+#include "controls/grid/CellEditBox.h"
 
 #include <QApplication>
 #include <QClipboard>

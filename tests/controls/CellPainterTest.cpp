@@ -1,7 +1,7 @@
-#include "controls/CellPainter.h"
+#include "controls/cells/CellPainter.h"
 
 #include "controls/DrawnSheet.h"
-#include "controls/SheetColors.h"
+#include "controls/cells/SheetColors.h"
 
 #include <QCheckBox>
 

@@ -1,4 +1,4 @@
-#include "controls/CheckListDrag.h"
+#include "controls/lists/CheckListDrag.h"
 
 #include "controls/ShownCheckList.h"
 

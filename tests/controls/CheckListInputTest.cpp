@@ -1,7 +1,7 @@
 // What keys and clicks do with a check list.
 
-#include "controls/CheckList.h"
 #include "controls/ShownCheckList.h"
+#include "controls/lists/CheckList.h"
 
 namespace schedules::testing {
 

@@ -1,7 +1,7 @@
 // A check list that shows only some of its entries.
 
-#include "controls/CheckList.h"
 #include "controls/ShownCheckList.h"
+#include "controls/lists/CheckList.h"
 
 namespace schedules::testing {
 

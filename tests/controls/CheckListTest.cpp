@@ -1,9 +1,9 @@
 // What a check list offers to its owner.
 
-#include "controls/CheckList.h"
+#include "controls/lists/CheckList.h"
 
-#include "controls/CheckListModel.h"
 #include "controls/ShownCheckList.h"
+#include "controls/lists/CheckListModel.h"
 
 #include <QAbstractItemModelTester>
 #include <QHelpEvent>

@@ -1,4 +1,4 @@
-#include "controls/DesktopUserInterface.h"
+#include "controls/desktop/DesktopUserInterface.h"
 
 #include "support/ModalDialog.h"
 

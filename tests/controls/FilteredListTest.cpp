@@ -1,4 +1,4 @@
-#include "controls/FilteredList.h"
+#include "controls/lists/FilteredList.h"
 
 #include "controls/ShownCheckList.h"
 

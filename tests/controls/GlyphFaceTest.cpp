@@ -1,4 +1,4 @@
-#include "controls/GlyphFace.h"
+#include "controls/cells/GlyphFace.h"
 
 #include <QFontMetricsF>
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "controls/DrawnSheet.h"
-#include "controls/PrintDialogs.h"
-#include "controls/PrintPreview.h"
+#include "controls/paper/PrintDialogs.h"
+#include "controls/paper/PrintPreview.h"
 #include "support/ModalDialog.h"
 #include "support/ScriptedUserInterface.h"
 

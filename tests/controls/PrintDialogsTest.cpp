@@ -1,9 +1,9 @@
 // Printing as the user of a desktop does it.
 
 #include "common/Error.h"
-#include "controls/PreviewStage.h"
 #include "controls/PrintDialogsFixture.h"
 #include "controls/PrintedPdf.h"
+#include "controls/paper/PreviewStage.h"
 
 #include <QComboBox>
 #include <QLabel>

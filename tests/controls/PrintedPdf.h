@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/SheetPrinter.h"
+#include "controls/paper/SheetPrinter.h"
 
 #include <QFile>
 #include <QImage>

@@ -1,4 +1,4 @@
-#include "controls/SaveFileDialog.h"
+#include "controls/desktop/SaveFileDialog.h"
 
 #include "support/ModalDialog.h"
 

@@ -1,4 +1,4 @@
-#include "controls/SheetColors.h"
+#include "controls/cells/SheetColors.h"
 
 #include <gtest/gtest.h>
 

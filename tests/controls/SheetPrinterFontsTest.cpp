@@ -1,4 +1,4 @@
-#include "controls/SheetPrinterFonts.h"
+#include "controls/paper/SheetPrinterFonts.h"
 
 #include "common/Error.h"
 

@@ -1,6 +1,6 @@
 // What the cells of a printed page look like.
 
-#include "controls/SheetPrinterTable.h"
+#include "controls/paper/SheetPrinterTable.h"
 
 #include "controls/PrintedSheet.h"
 

@@ -1,12 +1,12 @@
 // Prints sheets and reads the documents back.
 
-#include "controls/SheetPrinter.h"
+#include "controls/paper/SheetPrinter.h"
 
 #include "common/CompiledTable.h"
 #include "common/Error.h"
 #include "controls/FailingPrinter.h"
 #include "controls/PrintedSheet.h"
-#include "controls/SheetPrinterFonts.h"
+#include "controls/paper/SheetPrinterFonts.h"
 
 #include <QCoreApplication>
 #include <QPdfWriter>

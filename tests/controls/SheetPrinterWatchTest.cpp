@@ -1,6 +1,6 @@
 // What counts as a change of a sheet that is being printed.
 
-#include "controls/SheetPrinterWatch.h"
+#include "controls/paper/SheetPrinterWatch.h"
 
 #include "common/Error.h"
 #include "controls/DrawnSheet.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/CheckList.h"
+#include "controls/lists/CheckList.h"
 
 #include <QApplication>
 #include <QPushButton>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/DrawnSheet.h"
-#include "controls/SpreadView.h"
+#include "controls/grid/SpreadView.h"
 
 #include <QApplication>
 #include <QScrollBar>

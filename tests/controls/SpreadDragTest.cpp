@@ -1,4 +1,4 @@
-#include "controls/SpreadDrag.h"
+#include "controls/grid/SpreadDrag.h"
 
 #include "controls/ShownView.h"
 

@@ -1,4 +1,4 @@
-#include "controls/SpreadGeometry.h"
+#include "controls/grid/SpreadGeometry.h"
 
 #include "controls/DrawnSheet.h"
 

@@ -1,4 +1,4 @@
-#include "controls/SpreadKeys.h"
+#include "controls/grid/SpreadKeys.h"
 
 #include "controls/DrawnSheet.h"
 

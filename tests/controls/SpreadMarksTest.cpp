@@ -1,7 +1,7 @@
-#include "controls/SpreadMarks.h"
+#include "controls/grid/SpreadMarks.h"
 
-#include "controls/SheetColors.h"
 #include "controls/ShownView.h"
+#include "controls/cells/SheetColors.h"
 
 #include <gtest/gtest.h>
 

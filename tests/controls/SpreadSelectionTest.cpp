@@ -1,4 +1,4 @@
-#include "controls/SpreadSelection.h"
+#include "controls/grid/SpreadSelection.h"
 
 #include "controls/DrawnSheet.h"
 

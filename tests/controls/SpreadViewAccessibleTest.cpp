@@ -1,4 +1,4 @@
-#include "controls/SpreadViewAccessible.h"
+#include "controls/grid/SpreadViewAccessible.h"
 
 #include "controls/ShownView.h"
 

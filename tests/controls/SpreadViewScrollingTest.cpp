@@ -1,5 +1,5 @@
 #include "controls/ShownView.h"
-#include "controls/SpreadView.h"
+#include "controls/grid/SpreadView.h"
 
 #include <gtest/gtest.h>
 

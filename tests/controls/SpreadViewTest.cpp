@@ -1,7 +1,7 @@
-#include "controls/SpreadView.h"
+#include "controls/grid/SpreadView.h"
 
-#include "controls/SheetColors.h"
 #include "controls/ShownView.h"
+#include "controls/cells/SheetColors.h"
 
 #include <QScreen>
 #include <QSignalSpy>

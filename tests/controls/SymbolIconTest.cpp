@@ -1,6 +1,6 @@
-#include "controls/SymbolIcon.h"
+#include "controls/desktop/SymbolIcon.h"
 
-#include "controls/SheetColors.h"
+#include "controls/cells/SheetColors.h"
 
 #include <QApplication>
 #include <QPainter>

@@ -6,7 +6,7 @@
 #include "grid/CSchedule.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/SheetDrawing.h"
-#include "tools/schedule/TagTable.h"
+#include "tools/schedule/picking/TagTable.h"
 
 #include <gtest/gtest.h>
 

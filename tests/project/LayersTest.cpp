@@ -30,11 +30,17 @@ const QHash<QString, QStringList> kMayInclude{
     {"webpage", {"common", "spread"}},
     {"grid", {"common", "spread"}},
     {"model", {"common", "fileutil"}},
-    {"controls", {"common", "spread"}},
+    {"controls/cells", {"common", "spread"}},
+    {"controls/grid", {"controls/cells", "common", "spread"}},
+    {"controls/paper", {"controls/cells", "common", "spread"}},
+    {"controls/lists", {"common"}},
+    {"controls/desktop", {"controls/cells", "common", "spread"}},
     {"rtf", {"common"}},
     {"tools", {"framework", "common"}},
-    {"tools/schedule", {"tools", "framework", "common", "spread", "grid", "controls", "rtf", "workbook", "webpage"}},
-    {"tools/options", {"tools", "framework", "common", "fileutil", "model", "controls"}},
+    {"tools/schedule",
+     {"tools", "framework", "common", "spread", "grid", "controls/cells", "controls/grid", "controls/paper",
+      "controls/desktop", "rtf", "workbook", "webpage"}},
+    {"tools/options", {"tools", "framework", "common", "fileutil", "model", "controls/lists", "controls/desktop"}},
     {"component", {"framework", "common", "fileutil", "tools", "tools/schedule", "tools/options"}},
     {"host", {"framework", "model", "fileutil"}},
 };
@@ -43,12 +49,13 @@ const QHash<QString, QStringList> kMayInclude{
 /// made of.
 const QStringList kPublicHeaders{"spread/Sheet.h", "grid/CSchedule.h", "common/UserInterface.h"};
 
+/// The innermost folder of a path that the table knows; its first one when it knows none.
 QString LayerOf(const QString& path)
 {
-    const QStringList parts = path.split('/');
-    if (parts.front() != "tools" || parts.size() < 3)
-        return parts.front();
-    return "tools/" + parts.at(1);
+    QString folder = path.section('/', 0, -2);
+    while (folder.contains('/') && !kMayInclude.contains(folder))
+        folder = folder.section('/', 0, -2);
+    return folder;
 }
 
 QStringList SourcesBelow(const QString& folder)

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "controls/CellEditBox.h"
-#include "controls/SpreadView.h"
+#include "controls/grid/CellEditBox.h"
+#include "controls/grid/SpreadView.h"
 #include "tools/ScheduleViewTest.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
-#include "tools/schedule/HeldDocument.h"
+#include "tools/schedule/edits/HeldDocument.h"
 
-#include "tools/schedule/EditedElement.h"
+#include "tools/schedule/edits/EditedElement.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "tools/schedule/TagTable.h"
+#include "tools/schedule/picking/TagTable.h"
 
 #include "support/SheetDrawing.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "controls/SymbolIcon.h"
-#include "tools/schedule/ScheduleToolbar.h"
-#include "tools/schedule/ScheduleTools.h"
+#include "controls/desktop/SymbolIcon.h"
+#include "tools/schedule/bar/ScheduleToolbar.h"
+#include "tools/schedule/bar/ScheduleTools.h"
 
 #include <QAccessible>
 #include <QAction>

@@ -1,6 +1,6 @@
 // What leaves the view as a file: the questions that are asked, what is written, and what the user is told.
 
-#include "controls/PrintPreview.h"
+#include "controls/paper/PrintPreview.h"
 #include "support/FileSizeLimit.h"
 #include "support/ModalDialog.h"
 #include "support/TraceLog.h"

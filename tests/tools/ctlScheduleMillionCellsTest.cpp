@@ -1,8 +1,8 @@
 // A table of a million cells, through all that a user does with one of ten.
 
-#include "controls/PreviewStage.h"
-#include "controls/PrintPreview.h"
 #include "controls/PrintedPdf.h"
+#include "controls/paper/PreviewStage.h"
+#include "controls/paper/PrintPreview.h"
 #include "support/ModalDialog.h"
 #include "tools/EditingTest.h"
 

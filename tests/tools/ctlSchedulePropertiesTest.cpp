@@ -1,5 +1,5 @@
 #include "ScheduleViewTest.h"
-#include "controls/SpreadView.h"
+#include "controls/grid/SpreadView.h"
 
 #include <QMetaProperty>
 #include <QTextBlock>

@@ -1,5 +1,5 @@
 #include "ScheduleViewTest.h"
-#include "tools/schedule/ToolIdentifiers.h"
+#include "tools/schedule/bar/ToolIdentifiers.h"
 
 #include <QSignalSpy>
 

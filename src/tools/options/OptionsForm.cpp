@@ -1,8 +1,8 @@
 #include "tools/options/OptionsForm.h"
 
 #include "common/modResource.h"
-#include "controls/CheckList.h"
-#include "controls/FilteredList.h"
+#include "controls/lists/CheckList.h"
+#include "controls/lists/FilteredList.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -2,9 +2,9 @@
 
 #include "common/Blanks.h"
 #include "common/modResource.h"
-#include "controls/CheckList.h"
-#include "controls/DesktopUserInterface.h"
-#include "controls/FilteredList.h"
+#include "controls/desktop/DesktopUserInterface.h"
+#include "controls/lists/CheckList.h"
+#include "controls/lists/FilteredList.h"
 #include "tools/options/Guarded.h"
 
 #include <QCheckBox>

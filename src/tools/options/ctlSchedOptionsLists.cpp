@@ -3,9 +3,9 @@
 #include "common/BooleanText.h"
 #include "common/StringNumbers.h"
 #include "common/modResource.h"
-#include "controls/CheckList.h"
+#include "controls/lists/CheckList.h"
 #include "tools/options/Guarded.h"
-#include "tools/options/ItemTexts.h"
+#include "tools/options/lists/ItemTexts.h"
 
 #include <QCheckBox>
 #include <QGroupBox>

@@ -1,8 +1,8 @@
 // The names of user-defined data items.
 
-#include "controls/CheckList.h"
+#include "controls/lists/CheckList.h"
 #include "tools/options/Guarded.h"
-#include "tools/options/ItemTexts.h"
+#include "tools/options/lists/ItemTexts.h"
 
 #include <QGroupBox>
 #include <QLabel>

@@ -6,8 +6,8 @@
 #include "common/XmlDocument.h"
 #include "common/modResource.h"
 #include "tools/options/Guarded.h"
-#include "tools/options/TemplateFolder.h"
-#include "tools/options/frmSaveAs.h"
+#include "tools/options/saveas/frmSaveAs.h"
+#include "tools/options/saving/TemplateFolder.h"
 
 #include <QScopeGuard>
 

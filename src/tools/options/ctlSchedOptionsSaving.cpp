@@ -3,11 +3,11 @@
 #include "common/Blanks.h"
 #include "common/StringNumbers.h"
 #include "common/modResource.h"
-#include "controls/CheckList.h"
+#include "controls/lists/CheckList.h"
 #include "tools/options/Guarded.h"
-#include "tools/options/HostTemplateList.h"
-#include "tools/options/TemplateFolder.h"
-#include "tools/options/TemplateRoot.h"
+#include "tools/options/saving/HostTemplateList.h"
+#include "tools/options/saving/TemplateFolder.h"
+#include "tools/options/saving/TemplateRoot.h"
 
 #include <QComboBox>
 #include <QScrollBar>

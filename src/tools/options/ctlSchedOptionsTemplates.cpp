@@ -2,7 +2,7 @@
 
 #include "common/StringNumbers.h"
 #include "common/modResource.h"
-#include "controls/CheckList.h"
+#include "controls/lists/CheckList.h"
 #include "model/Inside.h"
 #include "tools/options/Guarded.h"
 

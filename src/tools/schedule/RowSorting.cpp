@@ -1,6 +1,6 @@
 #include "tools/schedule/RowSorting.h"
 
-#include "controls/SpreadView.h"
+#include "controls/grid/SpreadView.h"
 
 namespace schedules {
 

@@ -3,13 +3,13 @@
 #include "common/CResEnum.h"
 #include "common/StringNumbers.h"
 #include "common/modResource.h"
-#include "controls/DesktopUserInterface.h"
-#include "controls/SpreadView.h"
+#include "controls/desktop/DesktopUserInterface.h"
+#include "controls/grid/SpreadView.h"
 #include "spread/RepaintingOff.h"
-#include "tools/schedule/CellEditing.h"
 #include "tools/schedule/RowSorting.h"
-#include "tools/schedule/ScheduleToolbar.h"
-#include "tools/schedule/ScheduleTools.h"
+#include "tools/schedule/bar/ScheduleToolbar.h"
+#include "tools/schedule/bar/ScheduleTools.h"
+#include "tools/schedule/edits/CellEditing.h"
 
 #include <QAction>
 #include <QCloseEvent>

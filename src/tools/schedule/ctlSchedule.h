@@ -4,9 +4,9 @@
 #include "spread/Sheet.h"
 #include "tools/ToolControl.h"
 #include "tools/schedule/CustomMessage.h"
-#include "tools/schedule/HeldDocument.h"
-#include "tools/schedule/TagTable.h"
-#include "tools/schedule/ToolIdentifiers.h"
+#include "tools/schedule/bar/ToolIdentifiers.h"
+#include "tools/schedule/edits/HeldDocument.h"
+#include "tools/schedule/picking/TagTable.h"
 
 class QLabel;
 class QMenu;

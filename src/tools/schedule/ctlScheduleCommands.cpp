@@ -3,9 +3,9 @@
 #include "common/CResEnum.h"
 #include "common/StringNumbers.h"
 #include "common/modResource.h"
-#include "controls/SpreadView.h"
-#include "tools/schedule/CellEditing.h"
+#include "controls/grid/SpreadView.h"
 #include "tools/schedule/ctlSchedule.h"
+#include "tools/schedule/edits/CellEditing.h"
 
 #include <QPointer>
 #include <QScopeGuard>

@@ -3,8 +3,8 @@
 #include "common/CResEnum.h"
 #include "common/StringNumbers.h"
 #include "common/modResource.h"
-#include "tools/schedule/ScheduleToolbar.h"
-#include "tools/schedule/ScheduleTools.h"
+#include "tools/schedule/bar/ScheduleToolbar.h"
+#include "tools/schedule/bar/ScheduleTools.h"
 #include "tools/schedule/ctlSchedule.h"
 
 #include <QAction>

@@ -1,7 +1,7 @@
 // The grid's menu, and sorting, which it offers.
 
 #include "common/modResource.h"
-#include "controls/SpreadView.h"
+#include "controls/grid/SpreadView.h"
 #include "tools/schedule/RowSorting.h"
 #include "tools/schedule/ctlSchedule.h"
 

@@ -2,11 +2,11 @@
 
 #include "common/StringNumbers.h"
 #include "common/modResource.h"
-#include "controls/SpreadView.h"
+#include "controls/grid/SpreadView.h"
 #include "spread/RepaintingOff.h"
-#include "tools/schedule/CellEditing.h"
-#include "tools/schedule/TagTable.h"
 #include "tools/schedule/ctlSchedule.h"
+#include "tools/schedule/edits/CellEditing.h"
+#include "tools/schedule/picking/TagTable.h"
 
 #include <QKeyEvent>
 

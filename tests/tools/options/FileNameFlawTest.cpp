@@ -1,4 +1,4 @@
-#include "tools/options/FileNameFlaw.h"
+#include "tools/options/saving/FileNameFlaw.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "tools/options/HostTemplateList.h"
+#include "tools/options/saving/HostTemplateList.h"
 
 #include "support/BadXml.h"
 

@@ -1,4 +1,4 @@
-#include "tools/options/LockableBox.h"
+#include "tools/options/lists/LockableBox.h"
 
 #include <QTest>
 

@@ -2,7 +2,7 @@
 
 #include "TemplateDrawing.h"
 #include "common/modResource.h"
-#include "controls/CheckList.h"
+#include "controls/lists/CheckList.h"
 #include "support/FakeHost.h"
 #include "support/ScriptedUserInterface.h"
 #include "tools/options/ctlSchedOptions.h"

@@ -5,7 +5,7 @@
 #include "common/XmlDocument.h"
 #include "model/CTemplate.h"
 #include "support/ModalDialog.h"
-#include "tools/options/frmSaveAs.h"
+#include "tools/options/saveas/frmSaveAs.h"
 
 #include <QDir>
 #include <QScrollBar>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/options/TemplateFolder.h"
+#include "tools/options/saving/TemplateFolder.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "tools/options/TemplateRoot.h"
+#include "tools/options/saving/TemplateRoot.h"
 
 #include "model/CTemplate.h"
 #include "support/ScriptedUserInterface.h"

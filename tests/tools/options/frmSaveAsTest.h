@@ -2,7 +2,7 @@
 
 #include "common/CompiledTable.h"
 #include "support/ScriptedUserInterface.h"
-#include "tools/options/frmSaveAs.h"
+#include "tools/options/saveas/frmSaveAs.h"
 
 #include <QApplication>
 #include <QCheckBox>

@@ -1,0 +1,291 @@
+#include "controls/cells/CellPainter.h"
+
+#include "controls/cells/SheetColors.h"
+
+#include <QGlyphRun>
+#include <QStyle>
+#include <QStyleOptionButton>
+#include <QTextLayout>
+
+#include <algorithm>
+#include <cmath>
+
+namespace schedules {
+
+namespace {
+
+constexpr int kVerticalPadding = 45;
+constexpr double kTwipsPerInch = 1440;
+
+/// Cell edges are rounded to pixels, so a text may have up to a pixel less than it measures; the padding has that room.
+constexpr double kRounding = 1;
+
+/// Less than this share of a line's height cannot be seen as an alignment.
+constexpr double kOneLineShare = 0.1;
+
+/// How far a text on paper may be narrowed.
+constexpr double kNarrowest = 0.5;
+
+constexpr double kOutlineShare = 0.5;
+
+/// Rounded down, so that texts lose no room.
+int PixelsOf(int twips, int dpi)
+{
+    return static_cast<int>(std::floor(twips * dpi / kTwipsPerInch));
+}
+
+QTextOption PlainTextOption(QTextOption::WrapMode wrapMode)
+{
+    QTextOption option;
+    option.setWrapMode(wrapMode);
+    option.setTextDirection(Qt::LayoutDirectionAuto);
+    return option;
+}
+
+void LayOutOnOneLine(QTextLayout& layout)
+{
+    layout.setCacheEnabled(true); // else it is shaped anew when it is drawn
+    layout.beginLayout();
+    layout.createLine();
+    layout.endLayout();
+}
+
+/// Returns the height of all lines.
+double LayOutInWidth(QTextLayout& layout, double width)
+{
+    double height = 0;
+    layout.setCacheEnabled(true);
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        line.setPosition({0, height});
+        height += line.height();
+    }
+    layout.endLayout();
+    return height;
+}
+
+} // namespace
+
+CellPainter::CellPainter(QPainter& painter, CellFaces& faces, const CellLook& look)
+    : m_painter(painter),
+      m_faces(faces),
+      m_look(look),
+      m_padding(PixelsOf(Sheet::kPadding, painter.device()->logicalDpiX())),
+      m_verticalPadding(PixelsOf(kVerticalPadding, painter.device()->logicalDpiY()))
+{
+}
+
+void CellPainter::Finish()
+{
+    DrawGlyphs(false);
+    DrawGlyphs(true);
+    m_ink = {};
+}
+
+void CellPainter::DrawGlyphs(bool bold)
+{
+    GlyphRow& row = m_glyphs[bold];
+    if (row.glyphs.empty())
+        return;
+    QGlyphRun run;
+    run.setRawFont(m_faces.Glyphs(bold).Font());
+    run.setRawData(row.glyphs.data(), row.positions.data(), static_cast<int>(row.glyphs.size()));
+    const QTransform unscaled = m_painter.transform();
+    m_painter.scale(m_faces.Scale(), m_faces.Scale());
+    m_painter.drawGlyphRun({}, run);
+    m_painter.setTransform(unscaled);
+    row.Clear();
+}
+
+QColor CellPainter::GroundOf(const CellContent& content, const QColor& otherwise) const
+{
+    return content.backColor ? ColorOf(*content.backColor, m_look.palette) : otherwise;
+}
+
+void CellPainter::Paint(const CellContent& content, const QRect& cell, const QColor& ground)
+{
+    if (content.IsCheckBox())
+        PaintCheckBox(content, cell, ground);
+    else if (!content.text.isEmpty()) {
+        UseInkFor(ground);
+        PaintText(content, cell);
+    }
+}
+
+void CellPainter::UseInkFor(const QColor& ground)
+{
+    if (m_ink.color.isValid() && m_ink.ground == ground.rgb())
+        return;
+    const QColor color = LegibleOn(ground, m_look.palette.color(QPalette::Text));
+    if (color != m_ink.color) {
+        Finish();
+        m_painter.setPen(color);
+    }
+    m_ink = {ground.rgb(), color};
+}
+
+void CellPainter::PaintText(const CellContent& content, const QRect& cell)
+{
+    const QRect room = cell.adjusted(m_padding, m_verticalPadding, -m_padding, -m_verticalPadding);
+    if (room.width() <= 0)
+        return;
+    if (content.wraps)
+        PaintLines(content, room);
+    else if (!PaintGlyphs(content, room))
+        PaintLine(content, room);
+}
+
+bool CellPainter::PaintGlyphs(const CellContent& content, const QRect& room)
+{
+    const bool isTooHigh = m_faces.Height(content.bold) > room.height() + 2 * m_verticalPadding;
+    if (isTooHigh || m_look.drawing == TextDrawing::AsText)
+        return false;
+    GlyphFace& face = m_faces.Glyphs(content.bold);
+    const auto faceWidth = face.WidthOf(content.text);
+    if (!faceWidth || *faceWidth * m_faces.Scale() > room.width() + kRounding)
+        return false;
+    const double left = LeftOf(*faceWidth * m_faces.Scale(), room, EdgeOf(content));
+    const QPointF start(left, BaselineOf(content, room));
+    face.Append(m_glyphs[content.bold], content.text, start / m_faces.Scale());
+    return true;
+}
+
+void CellPainter::PaintLine(const CellContent& content, const QRect& room)
+{
+    QTextLayout layout(content.text, m_faces.Font(content.bold));
+    layout.setTextOption(PlainTextOption(QTextOption::NoWrap));
+    LayOutOnOneLine(layout);
+    const auto width = [&] { return layout.lineAt(0).naturalTextWidth() * m_faces.Scale(); };
+    const double narrowing = NarrowingOf(width(), room.width() + kRounding);
+    if (width() * narrowing > room.width() + kRounding) {
+        layout.setText(m_faces.Elided(content.text, content.bold, room.width()));
+        LayOutOnOneLine(layout);
+    }
+    const double top = BaselineOf(content, room) - layout.lineAt(0).ascent() * m_faces.Scale();
+    const double left = LeftOf(width() * narrowing, room, EdgeOf(content));
+    DrawIn(room, layout, {left, top}, m_faces.Height(content.bold), narrowing);
+}
+
+double CellPainter::NarrowingOf(double width, double room) const
+{
+    const bool stays = width <= room || m_look.drawing == TextDrawing::Fast || room < kNarrowest * width;
+    return stays ? 1 : room / width;
+}
+
+double CellPainter::BaselineOf(const CellContent& content, const QRect& room) const
+{
+    return std::round(TopOf(content, room, m_faces.Height(content.bold)) + m_faces.Ascent(content.bold));
+}
+
+void CellPainter::PaintLines(const CellContent& content, const QRect& room)
+{
+    QString text = content.text;
+    QTextLayout layout(text.replace(u'\n', QChar::LineSeparator), m_faces.Font(content.bold));
+    QTextOption option = PlainTextOption(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    const Edge edge = EdgeOf(content);
+    option.setAlignment(edge == Edge::Middle ? Qt::AlignHCenter
+                                             : Qt::AlignAbsolute | (NearIsLeft(edge) ? Qt::AlignLeft : Qt::AlignRight));
+    layout.setTextOption(option);
+    const double height = LayOutInWidth(layout, (room.width() + kRounding) / m_faces.Scale()) * m_faces.Scale();
+    DrawIn(room, layout, {static_cast<double>(room.left()), std::round(TopOf(content, room, height))}, height);
+}
+
+void CellPainter::DrawIn(const QRect& room, const QTextLayout& layout, QPointF topLeft, double height, double narrowing)
+{
+    const QRect cell = room.adjusted(-m_padding, -m_verticalPadding, m_padding, m_verticalPadding);
+    if (height <= cell.height() && m_faces.Scale() * narrowing == 1) {
+        layout.draw(&m_painter, topLeft);
+        return;
+    }
+    m_painter.save();
+    if (height > cell.height())
+        m_painter.setClipRect(cell, Qt::IntersectClip);
+    m_painter.translate(topLeft);
+    m_painter.scale(m_faces.Scale() * narrowing, m_faces.Scale());
+    layout.draw(&m_painter, {});
+    m_painter.restore();
+}
+
+CellPainter::Edge CellPainter::EdgeOf(const CellContent& content) const
+{
+    if (content.hAlign == HorizontalAlignment::Center)
+        return Edge::Middle;
+    return content.hAlign == HorizontalAlignment::Data && IsNumber(content) ? Edge::Far : Edge::Near;
+}
+
+bool CellPainter::NearIsLeft(Edge edge) const
+{
+    return (edge == Edge::Near) == (m_look.direction == Qt::LeftToRight);
+}
+
+double CellPainter::LeftOf(double width, const QRect& room, Edge edge) const
+{
+    const double spare = room.width() - width;
+    if (edge == Edge::Middle)
+        return room.left() + spare / 2;
+    return room.left() + (NearIsLeft(edge) ? 0 : spare);
+}
+
+double CellPainter::TopOf(const CellContent& content, const QRect& room, double height) const
+{
+    const double spare = room.height() - height;
+    // Rows of one line have a little to spare, by rounding or on paper, where the face may be lower than on screen;
+    // without this, alignments would show as ragged baselines.
+    const bool isOneLineRow = spare < std::max(2 * kRounding, kOneLineShare * height);
+    if (isOneLineRow || content.vAlign == VerticalAlignment::Center)
+        return room.top() + std::max(spare, 0.0) / 2;
+    return room.top() + (content.vAlign == VerticalAlignment::Bottom ? spare : 0);
+}
+
+void CellPainter::PaintCheckBox(const CellContent& content, const QRect& cell, const QColor& ground)
+{
+    UseInkFor(ground);
+    if (!m_look.widget) {
+        const double side = std::min<double>(m_faces.Ascent(false), std::min(cell.width(), cell.height()) - 2);
+        QRectF box(0, 0, side, side);
+        box.moveCenter(QRectF(cell).center());
+        PaintPaperBox(box, content.Ticked());
+        return;
+    }
+    const QStyle* style = m_look.widget->style();
+    QStyleOptionButton option;
+    option.initFrom(m_look.widget);
+    option.palette = IndicatorPalette(ground);
+    option.state = QStyle::State_Enabled | (content.Ticked() ? QStyle::State_On : QStyle::State_Off);
+    option.rect = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter,
+                                      QSize(style->pixelMetric(QStyle::PM_IndicatorWidth, &option, m_look.widget),
+                                            style->pixelMetric(QStyle::PM_IndicatorHeight, &option, m_look.widget)),
+                                      cell.adjusted(0, 0, -1, -1));
+    m_painter.save();
+    style->drawPrimitive(QStyle::PE_IndicatorCheckBox, &option, &m_painter, m_look.widget);
+    m_painter.restore();
+}
+
+/// Styles take the box from these colors; those of the window may be invisible on a colored cell or in a dark palette.
+QPalette CellPainter::IndicatorPalette(const QColor& ground) const
+{
+    QPalette palette(m_look.palette);
+    palette.setColor(QPalette::Base, ground);
+    palette.setColor(QPalette::Window, Blend(ground, m_ink.color, kOutlineShare));
+    palette.setColor(QPalette::Text, m_ink.color);
+    palette.setColor(QPalette::WindowText, m_ink.color);
+    return palette;
+}
+
+void CellPainter::PaintPaperBox(const QRectF& box, bool ticked)
+{
+    const double thin = box.width() / 12;
+    m_painter.save();
+    m_painter.setPen(QPen(m_ink.color, thin));
+    m_painter.drawRect(box);
+    if (ticked) {
+        m_painter.setPen(QPen(m_ink.color, 2 * thin));
+        const auto at = [&](double x, double y) { return box.topLeft() + QPointF(x, y) * box.width(); };
+        const std::array tick{at(0.2, 0.5), at(0.42, 0.75), at(0.8, 0.25)};
+        m_painter.drawPolyline(tick.data(), static_cast<int>(tick.size()));
+    }
+    m_painter.restore();
+}
+
+} // namespace schedules

@@ -1,0 +1,53 @@
+#include "tools/schedule/picking/TagTable.h"
+
+#include "common/Module1.h"
+#include "framework/Message.h"
+
+namespace schedules {
+
+namespace {
+
+constexpr auto kTicked = "1";
+constexpr auto kNotTicked = "0";
+
+constexpr int kIdentifierLine = 1;
+constexpr int kCheckBoxLine = 2;
+
+Cell CellOf(int tag, int line, Tags tags)
+{
+    return tags == Tags::AreColumns ? Cell{Column(tag), Row(line)} : Cell{Column(line), Row(tag)};
+}
+
+QString TagElement(const QString& identifier)
+{
+    return ElementText(QStringLiteral("Tag"), ElementText(QStringLiteral("Id"), EscapedXml(identifier)));
+}
+
+} // namespace
+
+QString CheckBoxText(bool ticked)
+{
+    return QLatin1String(ticked ? kTicked : kNotTicked);
+}
+
+bool IsTicked(const Sheet& sheet, Cell cell)
+{
+    return sheet.Utf8(cell) == kTicked;
+}
+
+SelectedTags TickedTags(const Sheet& sheet, Tags tags)
+{
+    int count = 0;
+    QString elements;
+    const int last = tags == Tags::AreColumns ? sheet.ColumnCount() : sheet.RowCount();
+    for (int tag = 1; tag <= last; ++tag) {
+        const QString identifier = sheet.Text(CellOf(tag, kIdentifierLine, tags));
+        if (identifier.isEmpty() || !IsTicked(sheet, CellOf(tag, kCheckBoxLine, tags)))
+            continue;
+        elements += TagElement(identifier);
+        ++count;
+    }
+    return {count, ElementText(QStringLiteral("Tags"), elements)};
+}
+
+} // namespace schedules
