@@ -104,6 +104,18 @@ void Reported(UserInterface& userInterface, QualifiedName source, Body&& body)
     Reported(userInterface, source, false, [&] { return std::invoke(body), true; });
 }
 
+/// Runs what may fail; returns what went wrong, an empty text when nothing did.
+template <std::invocable Body>
+QString FailureOf(Body&& body)
+{
+    try {
+        std::invoke(body);
+    } catch (...) {
+        return CurrentError().Description();
+    }
+    return {};
+}
+
 /// Runs a step whose failure must not stop what comes after it.
 template <std::invocable Body>
 void IgnoringErrors(Body&& body) noexcept

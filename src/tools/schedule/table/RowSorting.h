@@ -15,8 +15,8 @@ public:
     /// What sorting by that column would lead to: upwards, then downwards, then the document's order again.
     RowOrder Next(Column column) const;
 
-    /// Goes on to that order. `headings` are the rows that head groups, see `SortedRows`.
-    void Sort(Column column, const std::vector<int>& headings);
+    /// Shows the rows in that order. `headings` are the rows that head groups, see `SortedRows`.
+    void Sort(Column column, RowOrder order, const std::vector<int>& headings);
 
     /// Back to the document's order.
     void Forget();

@@ -1,4 +1,4 @@
-#include "tools/schedule/RowSorting.h"
+#include "tools/schedule/table/RowSorting.h"
 
 #include "controls/grid/SpreadView.h"
 
@@ -33,10 +33,9 @@ RowOrder RowSorting::Next(Column column) const
     return Following(column == m_column ? m_order : RowOrder::Document);
 }
 
-void RowSorting::Sort(Column column, const std::vector<int>& headings)
+void RowSorting::Sort(Column column, RowOrder order, const std::vector<int>& headings)
 {
     Sheet& sheet = *m_grid.TheSheet();
-    const RowOrder order = Next(column);
     sheet.SetRowOrder(SortedRows(sheet, column, order, headings, m_grid.locale()));
     m_column = column;
     m_order = order;
