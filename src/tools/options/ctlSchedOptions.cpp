@@ -16,6 +16,7 @@
 #include <QResizeEvent>
 
 #include <cmath>
+#include <utility>
 
 namespace schedules {
 
@@ -40,6 +41,16 @@ int HandleIn(const QString& reply)
     return static_cast<int>(handle);
 }
 
+/// False when it cannot be pressed, or when pressing it was the end of the tool.
+bool Press(QPushButton& button, const ToolLife& life)
+{
+    if (!button.isEnabled())
+        return false;
+    const ToolLife::Watch watch(life);
+    button.click();
+    return watch.IsAlive();
+}
+
 } // namespace
 
 template <std::invocable Body>
@@ -51,6 +62,8 @@ void ctlSchedOptions::Entered(Body&& body) noexcept
         if (watch.IsAlive())
             EnableControls();
     });
+    if (watch.IsAlive())
+        TellUnsavedEdits();
 }
 
 /// What the body returns; false when the tool has gone with it.
@@ -185,11 +198,51 @@ void ctlSchedOptions::IToolUI_Deactivate(bool)
         m_rooms->catalogue.End();
         m_rooms->form.SetEnabled(false);
     });
+    TellUnsavedEdits();
+}
+
+QString ctlSchedOptions::TemplateFile() const
+{
+    const auto& current = m_rooms->state.currentTemplate;
+    return current ? current->Filename() : QString();
+}
+
+bool ctlSchedOptions::ChooseTemplate(const QString& fileName)
+{
+    return EnteredWith([&] {
+        if (!m_rooms->form.cboTemplates->isEnabled())
+            return false;
+        const int id = m_rooms->selector.TemplateOf(fileName);
+        if (id <= 0)
+            return false;
+        m_rooms->selector.SelectTemplateEntry(id);
+        return m_rooms->state.currentTemplate && m_rooms->state.currentTemplate->ID() == id;
+    });
+}
+
+bool ctlSchedOptions::SelectGroup(const QString& name)
+{
+    return EnteredWith([&] { return m_rooms->groups.SelectEntry(name); });
+}
+
+bool ctlSchedOptions::SelectItem(const QString& name)
+{
+    return EnteredWith([&] { return m_rooms->items.SelectEntry(name); });
 }
 
 bool ctlSchedOptions::HasUnsavedEdits() const
 {
     return m_rooms->state.IsDirty();
+}
+
+bool ctlSchedOptions::Apply()
+{
+    return Press(*m_rooms->form.cmdApply, Life());
+}
+
+bool ctlSchedOptions::Cancel()
+{
+    return Press(*m_rooms->form.cmdCancel, Life());
 }
 
 QSize ctlSchedOptions::minimumSizeHint() const
@@ -230,6 +283,13 @@ void ctlSchedOptions::EnableMoving()
 {
     EnableMoves(*m_rooms->form.lstGroups, m_rooms->form.cmdGroupMove);
     EnableMoves(*m_rooms->form.lstItems, m_rooms->form.cmdItemMove);
+}
+
+void ctlSchedOptions::TellUnsavedEdits() noexcept
+{
+    const bool now = HasUnsavedEdits();
+    if (std::exchange(m_toldUnsavedEdits, now) != now)
+        IgnoringErrors([this] { Q_EMIT HasUnsavedEditsChanged(); });
 }
 
 void ctlSchedOptions::cmdApply_Click()

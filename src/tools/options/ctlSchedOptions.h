@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/ITemplateEditor.h"
 #include "tools/ToolControl.h"
 
 #include <memory>
@@ -11,17 +12,18 @@ struct EditorRooms;
 /// The options editor: the user picks a schedule template, orders, shows, hides and renames its groups and data items,
 /// and applies, saves, saves as and deletes templates. The host follows message by message.
 ///
-/// A host drives it through `IToolUI`. What `IToolUI_XML` hands over is kept and not used;
+/// A host drives it through `IToolUI` and `ITemplateEditor`. What `IToolUI_XML` hands over is kept and not used;
 /// everything that the editor shows it asks the host for. Whatever a host does in its answer, also deleting the editor,
 /// ends what was under way.
 ///
 /// It only says who is called when; the work is done in its rooms.
-class ctlSchedOptions : public ToolControl
+class ctlSchedOptions : public ToolControl, public ITemplateEditor
 {
     Q_OBJECT
+    Q_INTERFACES(schedules::ITemplateEditor)
 
     /// Whether the current template has edits that are not saved.
-    Q_PROPERTY(bool HasUnsavedEdits READ HasUnsavedEdits)
+    Q_PROPERTY(bool HasUnsavedEdits READ HasUnsavedEdits NOTIFY HasUnsavedEditsChanged)
 
 public:
     /// Without a user interface the desktop's is used; one that is given must outlive the editor.
@@ -33,9 +35,19 @@ public:
     void IToolUI_Activate() override;
     void IToolUI_Deactivate(bool bCancel) override;
 
-    bool HasUnsavedEdits() const;
+    QString TemplateFile() const override;
+    bool ChooseTemplate(const QString& fileName) override;
+    bool SelectGroup(const QString& name) override;
+    bool SelectItem(const QString& name) override;
+    bool HasUnsavedEdits() const override;
+    bool Apply() override;
+    bool Cancel() override;
 
     QSize minimumSizeHint() const override;
+
+Q_SIGNALS:
+    /// `HasUnsavedEdits` has changed, when all is done that changed it. The receiver may delete the editor.
+    void HasUnsavedEditsChanged();
 
 protected:
     bool ObtainResourceModule() override;
@@ -58,6 +70,7 @@ private:
 
     void EnableControls();
     void EnableMoving();
+    void TellUnsavedEdits() noexcept;
 
     void cmdApply_Click();
     void cmdOK_Click();
@@ -67,6 +80,7 @@ private:
 
     std::unique_ptr<EditorRooms> m_rooms;
     QString m_xml;
+    bool m_toldUnsavedEdits = false;
 };
 
 } // namespace schedules

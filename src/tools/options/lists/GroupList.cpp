@@ -66,6 +66,15 @@ void GroupList::ShowNoGroup()
     form.lstItems->setEnabled(false);
 }
 
+bool GroupList::SelectEntry(const QString& text)
+{
+    const int row = RowToSelect(*m_editor.form.lstGroups, text);
+    if (row < 0 || !m_editor.state.TakesGroupClicks())
+        return false;
+    SetCurrentGroup(row);
+    return m_editor.state.currentGroup != nullptr;
+}
+
 void GroupList::lstGroups_Click()
 {
     m_editor.host.Guarded(__func__, [this] {

@@ -18,6 +18,9 @@ public:
     /// Selects the group in that row as a click does; -1 selects none.
     void SetCurrentGroup(int index);
 
+    /// Selects the group with that entry as a click does. False when the user could not do so now.
+    bool SelectEntry(const QString& text);
+
     void lstGroups_Click();
     void chkShowGroupName_Click();
     void cmdGroupMove_Click(int index);

@@ -41,6 +41,16 @@ void ItemList::ClearItems()
     m_names.ShowName(-1);
 }
 
+bool ItemList::SelectEntry(const QString& text)
+{
+    const int row = RowToSelect(*m_editor.form.lstItems, text);
+    if (row < 0 || !m_editor.state.TakesItemClicks())
+        return false;
+    m_editor.form.lstItems->SetCurrentRow(row);
+    lstItems_Click();
+    return m_editor.state.currentElement != nullptr;
+}
+
 void ItemList::lstItems_Click()
 {
     m_editor.host.Guarded(__func__, [this] {

@@ -16,6 +16,9 @@ public:
     void LoadItemsList();
     void ClearItems();
 
+    /// Selects the data item with that entry as a click does. False when the user could not do so now.
+    bool SelectEntry(const QString& text);
+
     void lstItems_Click();
     void cmdItemMove_Click(int index);
     void MoveElementObject(int lNewListIndex, int lOldListIndex);

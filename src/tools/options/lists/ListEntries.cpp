@@ -4,6 +4,9 @@
 
 #include <QPushButton>
 
+#include <algorithm>
+#include <ranges>
+
 namespace schedules {
 
 namespace {
@@ -15,6 +18,14 @@ int NeighbourOf(const CheckList& list, int index)
     const int row = list.CurrentRow();
     const int neighbour = index == kUp ? row - 1 : row + 1;
     return neighbour >= 0 && neighbour < list.Count() ? neighbour : row;
+}
+
+int RowToSelect(const CheckList& list, const QString& text)
+{
+    const auto rows = std::views::iota(0, list.isEnabled() ? list.Count() : 0);
+    const auto found =
+        std::ranges::find_if(rows, [&](int row) { return list.Text(row) == text && !list.isRowHidden(row); });
+    return found == rows.end() ? -1 : *found;
 }
 
 void EnableMoves(const CheckList& list, const std::array<QPushButton*, 2>& buttons)

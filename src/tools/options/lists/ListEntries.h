@@ -15,6 +15,9 @@ class CheckList;
 /// entry's own at the ends of the list.
 int NeighbourOf(const CheckList& list, int index);
 
+/// The row of the entry with that text; -1 when there is none, and when the user could not select it now.
+int RowToSelect(const CheckList& list, const QString& text);
+
 /// Enables the buttons that can move the selected entry.
 void EnableMoves(const CheckList& list, const std::array<QPushButton*, 2>& buttons);
 
