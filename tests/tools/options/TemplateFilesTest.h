@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/options/saving/TemplateFolder.h"
+#include "tools/options/saving/TemplateFiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -32,14 +32,14 @@ std::string Failure(Call&& call)
 inline const std::string kRefused = "A file in the template folder cannot have this name.";
 
 /// A folder "templates", and beside it a file "outside.xml" that nothing may touch.
-struct TemplateFolderTest : ::testing::Test
+struct TemplateFilesTest : ::testing::Test
 {
-    TemplateFolderTest()
+    TemplateFilesTest()
     {
         std::filesystem::create_directory(Place(""));
         Write("../outside.xml", "outside");
     }
-    ~TemplateFolderTest() override
+    ~TemplateFilesTest() override
     {
         Mode("", 0755);
         EXPECT_EQ(Read("../outside.xml"), "outside");
@@ -49,7 +49,7 @@ struct TemplateFolderTest : ::testing::Test
     {
         return std::filesystem::path(m_around.path().toStdString() + "/templates/" + name).lexically_normal();
     }
-    TemplateFolder Folder() const { return TemplateFolder(m_around.path() + "/templates"); }
+    TemplateFiles Folder() const { return TemplateFiles(m_around.path() + "/templates"); }
 
     void Write(const std::string& name, const QByteArray& content) const
     {

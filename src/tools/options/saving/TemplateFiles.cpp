@@ -1,4 +1,4 @@
-#include "tools/options/saving/TemplateFolder.h"
+#include "tools/options/saving/TemplateFiles.h"
 
 #include "common/Blanks.h"
 #include "common/FilePath.h"
@@ -61,49 +61,49 @@ bool IsForListing(const QString& name)
 
 } // namespace
 
-bool TemplateFolder::IsKnown() const
+bool TemplateFiles::IsKnown() const
 {
     return !TrimmedOfBlanks(m_path).isEmpty();
 }
 
-QString TemplateFolder::PathOf(const QString& fileName) const
+QString TemplateFiles::PathOf(const QString& fileName) const
 {
     return FolderPathWithSeparator(m_path) + fileName;
 }
 
-bool TemplateFolder::Holds(const QString& fileName) const
+bool TemplateFiles::Holds(const QString& fileName) const
 {
-    return PlaceOf(fileName).has_value();
+    return ResolvedPath(fileName).has_value();
 }
 
-bool TemplateFolder::HasFile(const QString& fileName) const
+bool TemplateFiles::HasFile(const QString& fileName) const
 {
     return CanName(fileName) && exists(StatusAt(PathOf(fileName)));
 }
 
-std::optional<QByteArray> TemplateFolder::Content(const QString& fileName) const
+std::optional<QByteArray> TemplateFiles::Content(const QString& fileName) const
 {
-    const auto place = PlaceOf(fileName);
+    const auto path = ResolvedPath(fileName);
     // What is no file, such as a pipe, might never end.
-    if (!place || !QFileInfo(*place).isFile())
+    if (!path || !QFileInfo(*path).isFile())
         return std::nullopt;
-    QFile file(*place);
+    QFile file(*path);
     if (!file.open(QIODevice::ReadOnly) || file.size() > kMostBytes)
         return std::nullopt;
     const QByteArray content = file.read(file.size());
     return file.error() == QFileDevice::NoError ? std::optional(content) : std::nullopt;
 }
 
-void TemplateFolder::Replace(const QString& fileName, const QByteArray& content) const
+void TemplateFiles::Replace(const QString& fileName, const QByteArray& content) const
 {
     RequireDeletable(fileName);
-    const auto place = PlaceOf(fileName);
-    if (!place)
+    const auto path = ResolvedPath(fileName);
+    if (!path)
         RefuseName();
-    ReplaceFile(*place, content);
+    ReplaceFile(*path, content);
 }
 
-void TemplateFolder::Delete(const QString& fileName) const
+void TemplateFiles::Delete(const QString& fileName) const
 {
     if (TrimmedOfBlanks(fileName).isEmpty())
         return;
@@ -115,7 +115,7 @@ void TemplateFolder::Delete(const QString& fileName) const
         throw SaveError(kTemplateFileNotDeleted);
 }
 
-void TemplateFolder::RequireDeletable(const QString& fileName) const
+void TemplateFiles::RequireDeletable(const QString& fileName) const
 {
     RequireName(fileName);
     const Status status = StatusBehind(PathOf(fileName));
@@ -124,12 +124,12 @@ void TemplateFolder::RequireDeletable(const QString& fileName) const
 }
 
 /// Whether a path of the folder and the name leads nowhere but into the folder, links aside.
-bool TemplateFolder::CanName(const QString& fileName) const
+bool TemplateFiles::CanName(const QString& fileName) const
 {
     return IsKnown() && FileNameFlaw(fileName).isEmpty() && IsForListing(fileName);
 }
 
-void TemplateFolder::RequireName(const QString& fileName) const
+void TemplateFiles::RequireName(const QString& fileName) const
 {
     if (!IsKnown())
         throw SaveError(kTemplateFolderUnknown);
@@ -138,7 +138,7 @@ void TemplateFolder::RequireName(const QString& fileName) const
 }
 
 /// Where the name leads in the file system, at the end of all links; nothing when that is not in the folder.
-std::optional<QString> TemplateFolder::PlaceOf(const QString& fileName) const
+std::optional<QString> TemplateFiles::ResolvedPath(const QString& fileName) const
 {
     if (!CanName(fileName))
         return std::nullopt;

@@ -1,4 +1,4 @@
-#include "tools/options/TemplateFolderTest.h"
+#include "tools/options/TemplateFilesTest.h"
 
 #include <sys/stat.h>
 
@@ -15,27 +15,27 @@ constexpr const char* kUnusual[]{
 
 } // namespace
 
-TEST(TemplateFolder, IsKnownUnlessBlank)
+TEST(TemplateFiles, IsKnownUnlessBlank)
 {
-    EXPECT_FALSE(TemplateFolder({}).IsKnown());
-    EXPECT_FALSE(TemplateFolder(Text("   ")).IsKnown());
-    EXPECT_TRUE(TemplateFolder(Text(" /x ")).IsKnown());
+    EXPECT_FALSE(TemplateFiles({}).IsKnown());
+    EXPECT_FALSE(TemplateFiles(Text("   ")).IsKnown());
+    EXPECT_TRUE(TemplateFiles(Text(" /x ")).IsKnown());
 }
 
-TEST(TemplateFolder, APathIsTheFolderASeparatorAndTheName)
+TEST(TemplateFiles, APathIsTheFolderASeparatorAndTheName)
 {
-    EXPECT_EQ(TemplateFolder(Text("C:\\t")).PathOf(Text("a.xml")), Text("C:\\t\\a.xml"));
-    EXPECT_EQ(TemplateFolder(Text(" C:\\t\\ ")).PathOf(Text("a.xml")), Text("C:\\t\\a.xml"));
-    EXPECT_EQ(TemplateFolder(Text("/t")).PathOf(Text("a.xml")), Text("/t\\a.xml"));
+    EXPECT_EQ(TemplateFiles(Text("C:\\t")).PathOf(Text("a.xml")), Text("C:\\t\\a.xml"));
+    EXPECT_EQ(TemplateFiles(Text(" C:\\t\\ ")).PathOf(Text("a.xml")), Text("C:\\t\\a.xml"));
+    EXPECT_EQ(TemplateFiles(Text("/t")).PathOf(Text("a.xml")), Text("/t\\a.xml"));
 }
 
-TEST_F(TemplateFolderTest, EveryWayToWriteTheFolderLeadsThere)
+TEST_F(TemplateFilesTest, EveryWayToWriteTheFolderLeadsThere)
 {
     Write("a.xml", "a");
     const QString path = m_around.path() + "/templates";
     for (const QString& written : {path, path + '/', path + '\\', "  " + path + "  ", QString(path).replace('/', '\\')})
     {
-        const TemplateFolder folder(written);
+        const TemplateFiles folder(written);
         EXPECT_TRUE(folder.Holds("a.xml")) << written.toStdString();
         EXPECT_TRUE(folder.HasFile("a.xml")) << written.toStdString();
         EXPECT_EQ(folder.Content("a.xml"), QByteArray("a")) << written.toStdString();
@@ -46,9 +46,9 @@ TEST_F(TemplateFolderTest, EveryWayToWriteTheFolderLeadsThere)
     }
 }
 
-TEST_F(TemplateFolderTest, AnUnknownFolderHoldsNothing)
+TEST_F(TemplateFilesTest, AnUnknownFolderHoldsNothing)
 {
-    const TemplateFolder unknown(Text("  "));
+    const TemplateFiles unknown(Text("  "));
     EXPECT_FALSE(unknown.Holds("a.xml"));
     EXPECT_FALSE(unknown.HasFile("."));
     EXPECT_EQ(unknown.Content("a.xml"), std::nullopt);
@@ -57,7 +57,7 @@ TEST_F(TemplateFolderTest, AnUnknownFolderHoldsNothing)
     EXPECT_EQ(Failure([&] { unknown.RequireDeletable("a.xml"); }), "Missing: 3073");
 }
 
-TEST_F(TemplateFolderTest, NamesThatLeadElsewhereOrNowhereAreRefused)
+TEST_F(TemplateFilesTest, NamesThatLeadElsewhereOrNowhereAreRefused)
 {
     const QString names[]{"../outside.xml",
                           "..\\outside.xml",
@@ -85,7 +85,7 @@ TEST_F(TemplateFolderTest, NamesThatLeadElsewhereOrNowhereAreRefused)
     EXPECT_EQ(Names(), "");
 }
 
-TEST_F(TemplateFolderTest, ABlankNameIsNoneAndDeletesNothing)
+TEST_F(TemplateFilesTest, ABlankNameIsNoneAndDeletesNothing)
 {
     Write("a.xml", "a");
     for (const char* name : {"", "  "}) {
@@ -93,12 +93,12 @@ TEST_F(TemplateFolderTest, ABlankNameIsNoneAndDeletesNothing)
         EXPECT_FALSE(Folder().HasFile(Text(name)));
         EXPECT_EQ(ReplaceFailure(name), kRefused);
         EXPECT_EQ(DeleteFailure(name), "");
-        EXPECT_EQ(Failure([&] { TemplateFolder({}).Delete(Text(name)); }), "");
+        EXPECT_EQ(Failure([&] { TemplateFiles({}).Delete(Text(name)); }), "");
     }
     EXPECT_EQ(Names(), "a.xml");
 }
 
-TEST_F(TemplateFolderTest, UnusualNamesAreTakenLiterally)
+TEST_F(TemplateFilesTest, UnusualNamesAreTakenLiterally)
 {
     for (const char* name : kUnusual) {
         Write("decoy.xml", "decoy");
@@ -115,7 +115,7 @@ TEST_F(TemplateFolderTest, UnusualNamesAreTakenLiterally)
     }
 }
 
-TEST_F(TemplateFolderTest, TheLongestNameIsHeld)
+TEST_F(TemplateFilesTest, TheLongestNameIsHeld)
 {
     const QString longest(255, 'a');
     EXPECT_TRUE(Folder().Holds(longest));
@@ -126,7 +126,7 @@ TEST_F(TemplateFolderTest, TheLongestNameIsHeld)
     EXPECT_EQ(Names(), "");
 }
 
-TEST_F(TemplateFolderTest, OnlyFilesHaveContent)
+TEST_F(TemplateFilesTest, OnlyFilesHaveContent)
 {
     fs::create_directory(Place("sub"));
     ASSERT_EQ(::mkfifo(Place("pipe").c_str(), 0600), 0);
@@ -135,7 +135,7 @@ TEST_F(TemplateFolderTest, OnlyFilesHaveContent)
     EXPECT_EQ(Folder().Content("none.xml"), std::nullopt);
 }
 
-TEST_F(TemplateFolderTest, ContentIsByteForByte)
+TEST_F(TemplateFilesTest, ContentIsByteForByte)
 {
     const QByteArray content("\xEF\xBB\xBF<a>\r\n\0\xFF</a>", 14);
     Write("a.xml", content);
@@ -146,7 +146,7 @@ TEST_F(TemplateFolderTest, ContentIsByteForByte)
     EXPECT_EQ(Folder().Content("b.xml"), QByteArray(""));
 }
 
-TEST_F(TemplateFolderTest, ContentIsBounded)
+TEST_F(TemplateFilesTest, ContentIsBounded)
 {
     constexpr std::uintmax_t kMost = 64 * 1024 * 1024;
     Write("large.xml", {});
@@ -156,7 +156,7 @@ TEST_F(TemplateFolderTest, ContentIsBounded)
     EXPECT_EQ(Folder().Content("large.xml"), std::nullopt);
 }
 
-TEST_F(TemplateFolderTest, ThePermissionsOfAReplacedFileStay)
+TEST_F(TemplateFilesTest, ThePermissionsOfAReplacedFileStay)
 {
     Write("a.xml", "a");
     Mode("a.xml", 0640);

@@ -12,11 +12,11 @@ namespace schedules {
 /// The folder of the template files. File names are taken literally, and none of them leads out of the folder, however
 /// the host or the user came by it. What leads elsewhere is refused by an `Error` (`kSaveError`), and so is everything
 /// while the folder is not known (3073).
-class TemplateFolder
+class TemplateFiles
 {
 public:
     /// As a host tells it: with "\" or "/", with a separator at its end or not, with blanks around it.
-    explicit TemplateFolder(const QString& path) : m_path(path) {}
+    explicit TemplateFiles(const QString& path) : m_path(path) {}
 
     /// Whether the host told any.
     bool IsKnown() const;
@@ -50,7 +50,7 @@ public:
 private:
     bool CanName(const QString& fileName) const;
     void RequireName(const QString& fileName) const;
-    std::optional<QString> PlaceOf(const QString& fileName) const;
+    std::optional<QString> ResolvedPath(const QString& fileName) const;
 
     QString m_path;
 };

@@ -1,13 +1,13 @@
 #include "support/FileSizeLimit.h"
 #include "support/OrdinaryUser.h"
-#include "tools/options/TemplateFolderTest.h"
+#include "tools/options/TemplateFilesTest.h"
 
 using namespace schedules;
 using namespace schedules::testing;
 
 namespace fs = std::filesystem;
 
-TEST_F(TemplateFolderTest, AReadOnlyFileIsNeitherReplacedNorDeleted)
+TEST_F(TemplateFilesTest, AReadOnlyFileIsNeitherReplacedNorDeleted)
 {
     Write("a*.xml", "a");
     Mode("a*.xml", 0444);
@@ -21,7 +21,7 @@ TEST_F(TemplateFolderTest, AReadOnlyFileIsNeitherReplacedNorDeleted)
     EXPECT_EQ(Names(), "a*.xml link.xml");
 }
 
-TEST_F(TemplateFolderTest, AFolderIsNeitherReplacedNorDeleted)
+TEST_F(TemplateFilesTest, AFolderIsNeitherReplacedNorDeleted)
 {
     fs::create_directory(Place("sub.xml"));
     EXPECT_EQ(Failure([&] { Folder().RequireDeletable("sub.xml"); }), "Missing: 3076");
@@ -30,7 +30,7 @@ TEST_F(TemplateFolderTest, AFolderIsNeitherReplacedNorDeleted)
     EXPECT_TRUE(fs::is_directory(Place("sub.xml")));
 }
 
-TEST_F(TemplateFolderTest, AFileThatIsGoneOrWritableIsDeletable)
+TEST_F(TemplateFilesTest, AFileThatIsGoneOrWritableIsDeletable)
 {
     Write("a.xml", "a");
     EXPECT_EQ(Failure([&] { Folder().RequireDeletable("a.xml"); }), "");
@@ -39,7 +39,7 @@ TEST_F(TemplateFolderTest, AFileThatIsGoneOrWritableIsDeletable)
     EXPECT_EQ(Read("a.xml"), "a");
 }
 
-TEST_F(TemplateFolderTest, InAReadOnlyFolderEverythingStays)
+TEST_F(TemplateFilesTest, InAReadOnlyFolderEverythingStays)
 {
     Write("a.xml", "a");
     Mode("a.xml", 0666);
@@ -58,7 +58,7 @@ TEST_F(TemplateFolderTest, InAReadOnlyFolderEverythingStays)
     EXPECT_EQ(Names(), "a.xml");
 }
 
-TEST_F(TemplateFolderTest, WhatCannotBeLookedAtIsNotTakenForGone)
+TEST_F(TemplateFilesTest, WhatCannotBeLookedAtIsNotTakenForGone)
 {
     Write("a.xml", "a");
     Mode("../", 0755);
@@ -73,7 +73,7 @@ TEST_F(TemplateFolderTest, WhatCannotBeLookedAtIsNotTakenForGone)
     EXPECT_EQ(Read("a.xml"), "a");
 }
 
-TEST_F(TemplateFolderTest, AFileThatMayNotBeReadHasNoContent)
+TEST_F(TemplateFilesTest, AFileThatMayNotBeReadHasNoContent)
 {
     Write("a.xml", "a");
     Mode("a.xml", 0200);
@@ -82,7 +82,7 @@ TEST_F(TemplateFolderTest, AFileThatMayNotBeReadHasNoContent)
     EXPECT_EQ(Folder().Content("a.xml"), std::nullopt);
 }
 
-TEST_F(TemplateFolderTest, OnAFullDiskTheOldFileStays)
+TEST_F(TemplateFilesTest, OnAFullDiskTheOldFileStays)
 {
     Write("a.xml", "old");
     {
@@ -94,7 +94,7 @@ TEST_F(TemplateFolderTest, OnAFullDiskTheOldFileStays)
     EXPECT_EQ(Names(), "a.xml");
 }
 
-TEST_F(TemplateFolderTest, AFolderThatIsGoneFailsToSaveAndHasNothingToDelete)
+TEST_F(TemplateFilesTest, AFolderThatIsGoneFailsToSaveAndHasNothingToDelete)
 {
     fs::remove(Place(""));
     EXPECT_THROW(Folder().Replace("a.xml", "new"), Error);
@@ -104,19 +104,19 @@ TEST_F(TemplateFolderTest, AFolderThatIsGoneFailsToSaveAndHasNothingToDelete)
     EXPECT_FALSE(fs::exists(Place("")));
 }
 
-TEST_F(TemplateFolderTest, AFolderThatGoesBetweenTwoStepsIsNotMadeAgain)
+TEST_F(TemplateFilesTest, AFolderThatGoesBetweenTwoStepsIsNotMadeAgain)
 {
     Write("a.xml", "a");
-    const TemplateFolder folder = Folder();
+    const TemplateFiles folder = Folder();
     EXPECT_TRUE(folder.Holds("a.xml"));
     fs::remove_all(Place(""));
     EXPECT_THROW(folder.Replace("a.xml", "new"), Error);
     EXPECT_FALSE(fs::exists(Place("")));
 }
 
-TEST_F(TemplateFolderTest, AFileInPlaceOfTheFolderFails)
+TEST_F(TemplateFilesTest, AFileInPlaceOfTheFolderFails)
 {
-    const TemplateFolder folder(m_around.path() + "/outside.xml");
+    const TemplateFiles folder(m_around.path() + "/outside.xml");
     EXPECT_THROW(folder.Replace("a.xml", "new"), Error);
     EXPECT_FALSE(folder.HasFile("a.xml"));
     EXPECT_NO_THROW(folder.Delete("a.xml"));

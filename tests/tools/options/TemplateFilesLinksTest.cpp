@@ -1,11 +1,11 @@
-#include "tools/options/TemplateFolderTest.h"
+#include "tools/options/TemplateFilesTest.h"
 
 using namespace schedules;
 using namespace schedules::testing;
 
 namespace fs = std::filesystem;
 
-TEST_F(TemplateFolderTest, ALinkInTheFolderIsFollowed)
+TEST_F(TemplateFilesTest, ALinkInTheFolderIsFollowed)
 {
     Write("a.xml", "a");
     fs::create_directory(Place("sub"));
@@ -21,7 +21,7 @@ TEST_F(TemplateFolderTest, ALinkInTheFolderIsFollowed)
     EXPECT_TRUE(fs::is_symlink(Place("to-a.xml")) && fs::is_symlink(Place("to-b.xml")));
 }
 
-TEST_F(TemplateFolderTest, ALinkOutOfTheFolderIsNoWayOut)
+TEST_F(TemplateFilesTest, ALinkOutOfTheFolderIsNoWayOut)
 {
     fs::create_directory(Place("../templates-old"));
     Write("../templates-old/x.xml", "old");
@@ -37,7 +37,7 @@ TEST_F(TemplateFolderTest, ALinkOutOfTheFolderIsNoWayOut)
     EXPECT_EQ(Read("../templates-old/x.xml"), "old");
 }
 
-TEST_F(TemplateFolderTest, AWayThatOnlyLooksAsIfItStayedInIsNone)
+TEST_F(TemplateFilesTest, AWayThatOnlyLooksAsIfItStayedInIsNone)
 {
     fs::create_directories(Place("../elsewhere/deep"));
     Write("../elsewhere/a.xml", "elsewhere");
@@ -50,7 +50,7 @@ TEST_F(TemplateFolderTest, AWayThatOnlyLooksAsIfItStayedInIsNone)
     EXPECT_EQ(Read("a.xml"), "a");
 }
 
-TEST_F(TemplateFolderTest, AWayThatOnlyLooksAsIfItLedOutStaysIn)
+TEST_F(TemplateFilesTest, AWayThatOnlyLooksAsIfItLedOutStaysIn)
 {
     fs::create_directories(Place("../elsewhere/deep/er"));
     Write("a.xml", "a");
@@ -60,7 +60,7 @@ TEST_F(TemplateFolderTest, AWayThatOnlyLooksAsIfItLedOutStaysIn)
     EXPECT_EQ(Read("a.xml"), "new");
 }
 
-TEST_F(TemplateFolderTest, ALinkToNothingIsNotWrittenThrough)
+TEST_F(TemplateFilesTest, ALinkToNothingIsNotWrittenThrough)
 {
     Link("../made.xml", "dangling.xml");
     Link("loop.xml", "loop.xml");
@@ -72,7 +72,7 @@ TEST_F(TemplateFolderTest, ALinkToNothingIsNotWrittenThrough)
     EXPECT_FALSE(fs::exists(Place("../made.xml")));
 }
 
-TEST_F(TemplateFolderTest, DeletingALinkLeavesWhatItLeadsTo)
+TEST_F(TemplateFilesTest, DeletingALinkLeavesWhatItLeadsTo)
 {
     Write("a.xml", "a");
     Link("a.xml", "near.xml");
@@ -83,10 +83,10 @@ TEST_F(TemplateFolderTest, DeletingALinkLeavesWhatItLeadsTo)
     EXPECT_EQ(Names(), "a.xml");
 }
 
-TEST_F(TemplateFolderTest, AFolderThatIsALinkIsTheFolder)
+TEST_F(TemplateFilesTest, AFolderThatIsALinkIsTheFolder)
 {
     fs::create_directory_symlink(Place(""), Place("../link"));
-    const TemplateFolder folder(m_around.path() + "/link");
+    const TemplateFiles folder(m_around.path() + "/link");
     folder.Replace("a.xml", "1");
     folder.Replace("a.xml", "2");
     EXPECT_EQ(Read("a.xml"), "2");
