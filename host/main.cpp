@@ -1,9 +1,10 @@
 #include "framework/IComponentFactory.h"
-#include "host/CommandLine.h"
-#include "host/Commands.h"
-#include "host/Console.h"
-#include "host/HostError.h"
-#include "host/Platform.h"
+#include "host/base/Console.h"
+#include "host/base/HostError.h"
+#include "host/cli/CommandLine.h"
+#include "host/cli/Commands.h"
+#include "host/cli/HelpText.h"
+#include "host/cli/Platform.h"
 
 #include <QApplication>
 

@@ -1,16 +1,16 @@
 #include "host/window/ProjectWindow.h"
 
-#include "host/HostError.h"
-#include "host/HostRouter.h"
-#include "host/MessageDock.h"
-#include "host/OptionsTool.h"
-#include "host/ScheduleTool.h"
-#include "host/Session.h"
-#include "host/Warning.h"
+#include "host/base/HostError.h"
+#include "host/tools/HostRouter.h"
+#include "host/tools/HostedEditor.h"
+#include "host/tools/HostedSchedule.h"
+#include "host/tools/Session.h"
 #include "host/window/CategoryDock.h"
 #include "host/window/ConflictDialog.h"
 #include "host/window/HelpWindow.h"
 #include "host/window/MessageBar.h"
+#include "host/window/MessageDock.h"
+#include "host/window/Warning.h"
 
 #include <QCloseEvent>
 #include <QInputDialog>
@@ -140,7 +140,7 @@ std::unique_ptr<Project> ProjectWindow::Opened(const QString& address)
 /// What can fail comes first, so that one project is open at any time: the former one or this.
 void ProjectWindow::Show(std::unique_ptr<Project> project, const QString& language)
 {
-    auto folder = std::make_unique<TemplateFolder>(*project, OwnTemplateFolder(*project));
+    auto folder = std::make_unique<LaidOutTemplates>(*project, OwnTemplateFolder(*project));
     folder->LayOut();
     const QString own = project->Language();
     const QList<Category> categories = project->Categories();

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "host/Answering.h"
-#include "host/CommandLine.h"
 #include "host/answers/ProjectAnswers.h"
 #include "host/project/Project.h"
 #include "host/schedule/ScheduleBuilder.h"
+#include "host/window/Answering.h"
 #include "host/window/HostSettings.h"
+#include "host/window/Palettes.h"
 
 #include <QMainWindow>
 
@@ -23,8 +23,8 @@ class CategoryDock;
 class HelpWindow;
 class MessageBar;
 class MessageDock;
-class OptionsTool;
-class ScheduleTool;
+class HostedEditor;
+class HostedSchedule;
 class Session;
 struct Crossing;
 
@@ -57,8 +57,8 @@ public:
     void UseColours(Palette palette);
 
     /// The view that is shown; none before a category is chosen.
-    ScheduleTool* View() const { return m_view.get(); }
-    OptionsTool* Options() const { return m_options.get(); }
+    HostedSchedule* View() const { return m_view.get(); }
+    HostedEditor* Options() const { return m_options.get(); }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -69,7 +69,7 @@ private:
     struct OpenProject
     {
         std::unique_ptr<Project> project;
-        std::unique_ptr<TemplateFolder> folder;
+        std::unique_ptr<LaidOutTemplates> folder;
         std::unique_ptr<ProjectAnswers> answers;
     };
 
@@ -155,8 +155,8 @@ private:
     MessageDock* m_messages;
     HelpWindow* m_help = nullptr;
     OpenProject m_open;
-    std::unique_ptr<ScheduleTool> m_view;
-    std::unique_ptr<OptionsTool> m_options;
+    std::unique_ptr<HostedSchedule> m_view;
+    std::unique_ptr<HostedEditor> m_options;
     std::optional<ShownSchedule> m_schedule; ///< nothing while the selector is shown
     bool m_viewDone = false;                 ///< the view has told to unload it
     QString m_failure;                       ///< why the last message but for errors was not answered

@@ -1,14 +1,15 @@
 #include "framework/IComponentFactory.h"
-#include "host/HostError.h"
-#include "host/MessageDock.h"
-#include "host/Palettes.h"
-#include "host/Session.h"
-#include "host/Warning.h"
+#include "host/base/HostError.h"
 #include "host/import/Import.h"
 #include "host/import/SampleProject.h"
+#include "host/tools/LanguageModule.h"
+#include "host/tools/Session.h"
 #include "host/window/CategoryDock.h"
 #include "host/window/HelpWindow.h"
+#include "host/window/MessageDock.h"
+#include "host/window/Palettes.h"
 #include "host/window/ProjectWindow.h"
+#include "host/window/Warning.h"
 
 #include <QActionGroup>
 #include <QFileDialog>
@@ -23,12 +24,9 @@ namespace schedules::host {
 
 namespace {
 
-const QStringList kLanguageCodes{"en", "de", "fr"};
-
 /// Each in its own language, so that whoever is lost in another one finds back.
 const QStringList kLanguageNames{"English", "Deutsch", "Français"};
 
-const QStringList kPaletteNames{"desktop", "light", "dark"};
 const QString kProjectEnd = QStringLiteral(".schedules");
 
 QString ProjectFilter()

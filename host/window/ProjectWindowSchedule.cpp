@@ -1,11 +1,11 @@
 // What the window shows in its middle and beside it.
 
-#include "host/HostError.h"
-#include "host/OptionsTool.h"
-#include "host/ScheduleTool.h"
-#include "host/Session.h"
 #include "host/answers/ProjectSchedule.h"
+#include "host/base/HostError.h"
 #include "host/project/Names.h"
+#include "host/tools/HostedEditor.h"
+#include "host/tools/HostedSchedule.h"
+#include "host/tools/Session.h"
 #include "host/window/CategoryDock.h"
 #include "host/window/MessageBar.h"
 #include "host/window/ProjectWindow.h"
@@ -77,7 +77,7 @@ void ProjectWindow::TakeView(host::View kind, const QString& category, const QSt
 {
     EndView();
     m_open.answers->WorkOn(category);
-    m_view = std::make_unique<ScheduleTool>(m_session.Router(), m_answering.tool, ViewOptions{.view = kind});
+    m_view = std::make_unique<HostedSchedule>(m_session.Router(), m_answering.tool, ViewOptions{.view = kind});
     m_view->SetPdsg(category);
     m_place->addWidget(&m_view->Widget());
     m_place->setCurrentWidget(&m_view->Widget());
@@ -180,7 +180,7 @@ void ProjectWindow::ShowOptions()
     if (!MayDropTemplate())
         return m_options->Widget().setFocus();
     EndOptions();
-    m_options = std::make_unique<OptionsTool>(m_session.Router(), m_answering.tool);
+    m_options = std::make_unique<HostedEditor>(m_session.Router(), m_answering.tool);
     m_optionsDock->setWidget(&m_options->Widget());
     m_optionsDock->show();
     // The schedule keeps the room that the editor does not need.
