@@ -2,7 +2,6 @@
 
 #include "framework/IComponentFactory.h"
 #include "host/base/DataFolder.h"
-#include "host/base/HostError.h"
 #include "host/tools/HostRouter.h"
 #include "host/tools/HostedSchedule.h"
 #include "host/window/MessageDock.h"
@@ -131,13 +130,7 @@ bool MainWindow::MayReplace()
 
 bool MainWindow::Show(const QString& fileName, const ViewOptions& options)
 {
-    try {
-        ShowTable(TableFile(fileName), options);
-        return true;
-    } catch (const HostError& error) {
-        Warn(*this, error.Line());
-        return false;
-    }
+    return DoneOrWarned(*this, [&] { ShowTable(TableFile(fileName), options); });
 }
 
 void MainWindow::ShowTable(TableFile file, const ViewOptions& options)

@@ -1,5 +1,7 @@
 #include "host/window/Warning.h"
 
+#include "host/base/HostError.h"
+
 #include <QPointer>
 
 namespace schedules::host {
@@ -13,6 +15,17 @@ QMessageBox::StandardButton Warn(QWidget& window, const QString& text, QMessageB
     const auto answer = static_cast<QMessageBox::StandardButton>(box->exec());
     delete box;
     return answer;
+}
+
+bool DoneOrWarned(QWidget& window, const std::function<void()>& step)
+{
+    try {
+        step();
+        return true;
+    } catch (const HostError& error) {
+        Warn(window, error.Line());
+        return false;
+    }
 }
 
 } // namespace schedules::host
