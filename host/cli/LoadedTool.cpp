@@ -4,20 +4,7 @@
 #include "host/files/XmlFile.h"
 #include "host/tools/ScheduleUser.h"
 
-#include <QFileInfo>
-
 namespace schedules::host {
-
-void KeepInputs(const QStringList& inputs, const QStringList& outputs)
-{
-    for (const QString& input : inputs) {
-        const QString path = QFileInfo(input).canonicalFilePath();
-        for (const QString& output : outputs) {
-            if (!path.isEmpty() && QFileInfo(output).canonicalFilePath() == path)
-                throw HostError(QStringLiteral("%1 is the file to be read, and is not written").arg(output));
-        }
-    }
-}
 
 LoadedTool::LoadedTool(const CommandLine& commandLine, const QString& xml)
     : m_session(commandLine.session), m_tool(m_session.Router(), &m_user, commandLine.view)

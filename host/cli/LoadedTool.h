@@ -9,9 +9,6 @@
 
 namespace schedules::host {
 
-/// Throws `HostError` when a file that is to be written is one of those that are read.
-void KeepInputs(const QStringList& inputs, const QStringList& outputs);
-
 /// A schedule view that has loaded a table, with the command line's actions done, and has nobody to talk to.
 class LoadedTool
 {

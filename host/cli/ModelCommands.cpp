@@ -1,7 +1,9 @@
+#include "host/cli/ModelCommands.h"
+
 #include "host/base/Console.h"
 #include "host/base/HostError.h"
 #include "host/cli/CatalogueJson.h"
-#include "host/cli/Commands.h"
+#include "host/cli/ExitCodes.h"
 #include "host/cli/MatchesJson.h"
 #include "host/files/XmlFile.h"
 #include "host/tools/ConsoleUserInterface.h"

@@ -1,9 +1,12 @@
+#include "host/cli/OptionsCommand.h"
+
 #include "host/answers/TemplateFiles.h"
 #include "host/base/Console.h"
-#include "host/cli/Commands.h"
+#include "host/cli/ExitCodes.h"
 #include "host/cli/LoadedTool.h"
 #include "host/cli/OwnSample.h"
 #include "host/cli/Picture.h"
+#include "host/files/InputFiles.h"
 #include "host/tools/ConsoleUserInterface.h"
 #include "host/tools/OptionsUser.h"
 #include "host/tools/Session.h"

@@ -1,8 +1,10 @@
+#include "host/cli/ProjectCommands.h"
+
 #include "host/answers/ProjectSchedule.h"
 #include "host/base/Console.h"
 #include "host/base/HostError.h"
 #include "host/base/Json.h"
-#include "host/cli/Commands.h"
+#include "host/cli/ExitCodes.h"
 #include "host/import/Headings.h"
 #include "host/import/Import.h"
 #include "host/import/SampleProject.h"

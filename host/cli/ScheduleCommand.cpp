@@ -1,9 +1,12 @@
+#include "host/cli/ScheduleCommand.h"
+
 #include "host/answers/ProjectSchedule.h"
 #include "host/base/Console.h"
 #include "host/base/HostError.h"
-#include "host/cli/Commands.h"
+#include "host/cli/ExitCodes.h"
 #include "host/cli/LoadedTool.h"
 #include "host/cli/Outputs.h"
+#include "host/files/InputFiles.h"
 #include "host/project/Names.h"
 #include "host/project/Project.h"
 #include "host/window/Palettes.h"

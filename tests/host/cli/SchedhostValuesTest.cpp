@@ -1,7 +1,7 @@
 // Reading and storing single values from the command line.
 
 #include "host/ProjectProgram.h"
-#include "host/cli/Commands.h"
+#include "host/cli/ProjectCommands.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,9 +1,8 @@
-#include "host/cli/Commands.h"
+#include "host/cli/WindowCommand.h"
 
-#include "host/base/Console.h"
-#include "host/cli/GridJson.h"
 #include "host/cli/LoadedTool.h"
 #include "host/cli/OwnSample.h"
+#include "host/files/InputFiles.h"
 #include "host/files/XmlFile.h"
 #include "host/project/Project.h"
 #include "host/window/MainWindow.h"
@@ -47,15 +46,6 @@ int RunWindow(const CommandLine& commandLine)
         NamesProject(address) ? ShowProject(session, commandLine, address) : ShowTable(session, commandLine, address);
     session.RequireCompleteMessages();
     return result;
-}
-
-int RunDump(const CommandLine& commandLine)
-{
-    KeepInputs(commandLine.files, {commandLine.session.messages, commandLine.actions.save});
-    LoadedTool loaded(commandLine, ReadXmlFile(commandLine.files.first()));
-    const HostedSchedule& tool = loaded.Tool();
-    PrintOut(GridJson(tool.Grid(), tool.Orientation(), tool.Transposed()));
-    return kDone;
 }
 
 } // namespace schedules::host

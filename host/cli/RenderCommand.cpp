@@ -1,8 +1,11 @@
+#include "host/cli/RenderCommand.h"
+
 #include "host/base/Console.h"
 #include "host/base/HostError.h"
-#include "host/cli/Commands.h"
+#include "host/cli/ExitCodes.h"
 #include "host/cli/LoadedTool.h"
 #include "host/cli/Outputs.h"
+#include "host/files/InputFiles.h"
 #include "host/files/XmlFile.h"
 #include "host/window/Palettes.h"
 
