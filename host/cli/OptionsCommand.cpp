@@ -1,6 +1,6 @@
 #include "host/cli/OptionsCommand.h"
 
-#include "host/answers/TemplateFiles.h"
+#include "host/answers/TemplateFileAnswers.h"
 #include "host/base/Console.h"
 #include "host/cli/ExitCodes.h"
 #include "host/cli/LoadedTool.h"
@@ -95,7 +95,7 @@ int RunOptions(const CommandLine& commandLine)
     const TemplatePlaces places = PlacesOf(commandLine);
     KeepInputs(FilesOf(places), {commandLine.session.messages, options.picture});
     Session session(commandLine.session);
-    const TemplateFiles files(session.Router(), places, IsOwn(commandLine) ? KeepOwnCurrentTemplate : nullptr);
+    const TemplateFileAnswers files(session.Router(), places, IsOwn(commandLine) ? KeepOwnCurrentTemplate : nullptr);
     UsePalette(commandLine.palette);
     if (options.rightToLeft)
         QGuiApplication::setLayoutDirection(Qt::RightToLeft);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/answers/TemplateFiles.h"
+#include "host/answers/TemplateFileAnswers.h"
 
 #include <QString>
 

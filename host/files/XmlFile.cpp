@@ -5,46 +5,18 @@
 
 #include <QFile>
 #include <QRegularExpression>
+#include <QStringConverter>
 
 #include <array>
 #include <cerrno>
 #include <iconv.h>
-#include <optional>
-#include <string_view>
 
 namespace schedules::host {
 
 namespace {
 
-using namespace std::string_view_literals;
-
 constexpr QChar kNotXml{0xFFFF};
 constexpr const char* kOwnEncoding = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? "UTF-16LE" : "UTF-16BE";
-
-struct Signature
-{
-    std::string_view bytes;
-    const char* encoding;
-    qsizetype markSize;
-};
-
-// The four-byte ones come first: the mark of UTF-32 begins with that of UTF-16.
-constexpr std::array kSignatures{
-    Signature{"\xFF\xFE\0\0"sv, "UTF-32LE", 4}, Signature{"\0\0\xFE\xFF"sv, "UTF-32BE", 4},
-    Signature{"<\0\0\0"sv, "UTF-32LE", 0},      Signature{"\0\0\0<"sv, "UTF-32BE", 0},
-    Signature{"\xEF\xBB\xBF"sv, "UTF-8", 3},    Signature{"\xFF\xFE"sv, "UTF-16LE", 2},
-    Signature{"\xFE\xFF"sv, "UTF-16BE", 2},     Signature{"<\0"sv, "UTF-16LE", 0},
-    Signature{"\0<"sv, "UTF-16BE", 0},
-};
-
-std::optional<Signature> SignatureOf(QByteArrayView bytes)
-{
-    for (const Signature& signature : kSignatures) {
-        if (bytes.startsWith(QByteArrayView(signature.bytes.data(), qsizetype(signature.bytes.size()))))
-            return signature;
-    }
-    return std::nullopt;
-}
 
 /// Converts from an encoding, as far as the bytes are of that encoding.
 class Decoder
@@ -123,9 +95,11 @@ QString DecodedAsDeclared(QByteArrayView bytes)
 
 QString DecodedXml(QByteArrayView bytes)
 {
-    if (const auto signature = SignatureOf(bytes))
-        return Decoder(signature->encoding).Decoded(bytes.sliced(signature->markSize));
-    return DecodedAsDeclared(bytes);
+    const auto encoding = QStringConverter::encodingForData(bytes, u'<');
+    if (!encoding)
+        return DecodedAsDeclared(bytes);
+    QString text = Decoder(QStringConverter::nameForEncoding(*encoding)).Decoded(bytes);
+    return text.startsWith(QChar::ByteOrderMark) ? text.remove(0, 1) : text;
 }
 
 QString ReadXmlFile(const QString& fileName)

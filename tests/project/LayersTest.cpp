@@ -47,7 +47,7 @@ const QHash<QString, QStringList> kMayInclude{
     {"tools/options", {"tools", "framework", "common", "fileutil", "model", "controls/lists", "controls/desktop"}},
     {"component", {"framework", "common", "fileutil", "tools", "tools/schedule", "tools/options"}},
     {"host/base", {}},
-    {"host/files", {"host/base"}},
+    {"host/files", {"host/base", "common/FileReplacement.h"}},
     {"host/project", {"host/base", "framework"}},
     {"host/schedule", {"host/base", "host/project", "framework", "model", "grid/CSchedule.h"}},
     {"host/import", {"host/base", "host/project", "host/schedule"}},

@@ -101,7 +101,7 @@ protected:
     std::deque<UnsavedValues> unsaved; ///< the answers to come
     QStringList asked;                 ///< the files that the window has asked about
     int seen = 0;
-    std::optional<TemplateFiles> host;
+    std::optional<TemplateFileAnswers> host;
     mutable std::optional<OptionsWindow> window;
 };
 

@@ -2,7 +2,7 @@
 #include "host/TemplateFolderFiles.h"
 #include "host/answers/LaidOutTemplates.h"
 #include "host/answers/SmallProject.h"
-#include "host/answers/TemplateFiles.h"
+#include "host/answers/TemplateFileAnswers.h"
 #include "host/base/HostError.h"
 #include "host/cli/LoadedTool.h"
 #include "host/cli/Picture.h"
@@ -240,7 +240,7 @@ private:
     ConsoleUserInterface m_user;
     QString m_told;
     std::optional<Session> m_session;
-    std::optional<TemplateFiles> m_files;
+    std::optional<TemplateFileAnswers> m_files;
     std::optional<HostedEditor> m_editor;
 };
 

@@ -1,4 +1,4 @@
-#include "host/answers/TemplateFiles.h"
+#include "host/answers/TemplateFileAnswers.h"
 
 #include "host/base/HostError.h"
 #include "host/files/TemplateListText.h"
@@ -32,7 +32,7 @@ QString ExistingFolder(const QString& folder)
 
 } // namespace
 
-TemplateFiles::TemplateFiles(HostRouter& router, const TemplatePlaces& places, KeepCurrent keepCurrent)
+TemplateFileAnswers::TemplateFileAnswers(HostRouter& router, const TemplatePlaces& places, KeepCurrent keepCurrent)
     : m_router(router), m_places(places), m_keepCurrent(std::move(keepCurrent))
 {
     m_places.folder = ExistingFolder(places.folder);
@@ -47,14 +47,14 @@ TemplateFiles::TemplateFiles(HostRouter& router, const TemplatePlaces& places, K
     router.Answers(kRemoveFromList, [this](const Message& message) { return RemoveFromList(message); });
 }
 
-TemplateFiles::~TemplateFiles()
+TemplateFileAnswers::~TemplateFileAnswers()
 {
     for (const QString& name :
          {kGetList, kGetFolder, kGetCategories, kGetCurrent, kSetCurrent, kReplaceList, kRemoveFromList})
         m_router.NoLongerAnswers(name);
 }
 
-QString TemplateFiles::UseTemplate(const Message& message)
+QString TemplateFileAnswers::UseTemplate(const Message& message)
 {
     m_places.current = ParameterText(message, QStringLiteral("TemplateFile"));
     if (m_keepCurrent)
@@ -62,7 +62,7 @@ QString TemplateFiles::UseTemplate(const Message& message)
     return {};
 }
 
-QString TemplateFiles::ReplaceList(const Message& message) const
+QString TemplateFileAnswers::ReplaceList(const Message& message) const
 {
     const QString list = ParameterText(message, QStringLiteral("ConfigXML"));
     RequireXml(list);
@@ -70,7 +70,7 @@ QString TemplateFiles::ReplaceList(const Message& message) const
     return {};
 }
 
-QString TemplateFiles::RemoveFromList(const Message& message) const
+QString TemplateFileAnswers::RemoveFromList(const Message& message) const
 {
     const QString list = ReadXmlFile(m_places.list);
     const QString shorter = WithoutEntries(list, ParameterText(message, QStringLiteral("TemplateFile")));

@@ -24,16 +24,16 @@ struct TemplatePlaces
 /// A host's templates on files alone: answers what the options editor asks about them, and does what it tells. Files
 /// are read anew for each question, and replaced as a whole; a file that cannot be read or written fails the message,
 /// and is then as it was.
-class TemplateFiles
+class TemplateFileAnswers
 {
 public:
     using KeepCurrent = std::function<void(const QString& fileName)>;
 
     /// `keepCurrent` is told each template that the schedule uses from now on. The router must outlive this object.
     /// Throws `HostError` when there is no such folder, or a list cannot be read.
-    TemplateFiles(HostRouter& router, const TemplatePlaces& places, KeepCurrent keepCurrent = {});
-    ~TemplateFiles();
-    Q_DISABLE_COPY_MOVE(TemplateFiles)
+    TemplateFileAnswers(HostRouter& router, const TemplatePlaces& places, KeepCurrent keepCurrent = {});
+    ~TemplateFileAnswers();
+    Q_DISABLE_COPY_MOVE(TemplateFileAnswers)
 
     /// The file name of the template that the schedule uses.
     const QString& Current() const { return m_places.current; }

@@ -1,6 +1,6 @@
 // The host's answers to the options editor, message by message.
 
-#include "host/answers/TemplateFiles.h"
+#include "host/answers/TemplateFileAnswers.h"
 
 #include "framework/MessageTable.h"
 #include "host/TemplateFolderFiles.h"
@@ -55,7 +55,7 @@ protected:
     TemplateFolderFiles files;
     HostRouter router;
     QStringList kept;
-    std::optional<TemplateFiles> host;
+    std::optional<TemplateFileAnswers> host;
 };
 
 } // namespace
@@ -215,7 +215,7 @@ TEST_F(TemplateFilesTest, WhatIsNotThereIsToldAtOnce)
 {
     const auto failure = [this](const TemplatePlaces& places) {
         try {
-            TemplateFiles(router, places, {});
+            TemplateFileAnswers(router, places, {});
         } catch (const HostError& error) {
             return error.Line();
         }
