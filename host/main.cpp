@@ -1,9 +1,17 @@
 #include "framework/IComponentFactory.h"
-#include "host/CommandLine.h"
-#include "host/Commands.h"
-#include "host/Console.h"
-#include "host/HostError.h"
-#include "host/Platform.h"
+#include "host/base/Console.h"
+#include "host/base/HostError.h"
+#include "host/cli/CommandLine.h"
+#include "host/cli/DumpCommand.h"
+#include "host/cli/ExitCodes.h"
+#include "host/cli/HelpText.h"
+#include "host/cli/ModelCommands.h"
+#include "host/cli/OptionsCommand.h"
+#include "host/cli/Platform.h"
+#include "host/cli/ProjectCommands.h"
+#include "host/cli/RenderCommand.h"
+#include "host/cli/ScheduleCommand.h"
+#include "host/cli/WindowCommand.h"
 
 #include <QApplication>
 

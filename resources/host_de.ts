@@ -263,7 +263,7 @@
         </message>
     </context>
     <context>
-        <name>schedules::host::ProjectWindow</name>
+        <name>schedules::host::ProjectDialogs</name>
         <message>
             <source>%1
 Password:</source>
@@ -271,41 +271,44 @@ Password:</source>
 Kennwort:</translation>
         </message>
         <message>
-            <source>Templates that are in no list were found: %1</source>
-            <translation>Vorlagen, die in keiner Liste stehen, wurden gefunden: %1</translation>
-        </message>
-        <message>
-            <source>Add them</source>
-            <translation>Aufnehmen</translation>
-        </message>
-        <message>
-            <source>The schedule</source>
-            <translation>Die Liste</translation>
-        </message>
-        <message>
-            <source>Template</source>
-            <translation>Vorlage</translation>
-        </message>
-        <message>
-            <source>Equipment Schedules</source>
-            <translation>Anlagenlisten</translation>
-        </message>
-        <message>
-            <source>%1 - Equipment Schedules</source>
-            <translation>%1 - Anlagenlisten</translation>
-        </message>
-        <message>
-            <source>This project has no categories yet. Import a table of them.</source>
-            <translation>Dieses Projekt hat noch keine Kategorien. Importieren Sie eine Tabelle davon.</translation>
-        </message>
-        <message>
-            <source>Choose a category at the left.</source>
-            <translation>Wählen Sie links eine Kategorie.</translation>
-        </message>
-        <message>
             <source>Projects (*%1);;All files (*)</source>
             <translation>Projekte (*%1);;Alle Dateien (*)</translation>
         </message>
+        <message>
+            <source>New project</source>
+            <translation>Neues Projekt</translation>
+        </message>
+        <message>
+            <source>Open a project</source>
+            <translation>Projekt öffnen</translation>
+        </message>
+        <message>
+            <source>Open from a server</source>
+            <translation>Vom Server öffnen</translation>
+        </message>
+        <message>
+            <source>Address of the project:</source>
+            <translation>Adresse des Projekts:</translation>
+        </message>
+        <message>
+            <source>Import a table</source>
+            <translation>Tabelle importieren</translation>
+        </message>
+        <message>
+            <source>Tables (*.csv *.txt);;All files (*)</source>
+            <translation>Tabellen (*.csv *.txt);;Alle Dateien (*)</translation>
+        </message>
+        <message>
+            <source>About Equipment Schedules</source>
+            <translation>Über Anlagenlisten</translation>
+        </message>
+        <message>
+            <source>&lt;h3&gt;Equipment Schedules %1&lt;/h3&gt;&lt;p&gt;The reference host of the schedule component: it shows the equipment of a project, and lists what the component and its host say to each other.&lt;/p&gt;</source>
+            <translation>&lt;h3&gt;Anlagenlisten %1&lt;/h3&gt;&lt;p&gt;Das Referenzprogramm der Listen-Komponente: Es zeigt die Anlagenteile eines Projekts und führt auf, was Komponente und Programm einander mitteilen.&lt;/p&gt;</translation>
+        </message>
+    </context>
+    <context>
+        <name>schedules::host::ProjectMenus</name>
         <message>
             <source>&amp;File</source>
             <translation>&amp;Datei</translation>
@@ -374,41 +377,12 @@ Kennwort:</translation>
             <source>&amp;About</source>
             <translation>Ü&amp;ber</translation>
         </message>
+    </context>
+    <context>
+        <name>schedules::host::ProjectViews</name>
         <message>
-            <source>New project</source>
-            <translation>Neues Projekt</translation>
-        </message>
-        <message>
-            <source>Open a project</source>
-            <translation>Projekt öffnen</translation>
-        </message>
-        <message>
-            <source>Open from a server</source>
-            <translation>Vom Server öffnen</translation>
-        </message>
-        <message>
-            <source>Address of the project:</source>
-            <translation>Adresse des Projekts:</translation>
-        </message>
-        <message>
-            <source>Import a table</source>
-            <translation>Tabelle importieren</translation>
-        </message>
-        <message>
-            <source>Tables (*.csv *.txt);;All files (*)</source>
-            <translation>Tabellen (*.csv *.txt);;Alle Dateien (*)</translation>
-        </message>
-        <message>
-            <source>Imported %1 tags and %2 values</source>
-            <translation>%1 Kennzeichen und %2 Werte importiert</translation>
-        </message>
-        <message>
-            <source>About Equipment Schedules</source>
-            <translation>Über Anlagenlisten</translation>
-        </message>
-        <message>
-            <source>&lt;h3&gt;Equipment Schedules %1&lt;/h3&gt;&lt;p&gt;The reference host of the schedule component: it shows the equipment of a project, and lists what the component and its host say to each other.&lt;/p&gt;</source>
-            <translation>&lt;h3&gt;Anlagenlisten %1&lt;/h3&gt;&lt;p&gt;Das Referenzprogramm der Listen-Komponente: Es zeigt die Anlagenteile eines Projekts und führt auf, was Komponente und Programm einander mitteilen.&lt;/p&gt;</translation>
+            <source>The schedule</source>
+            <translation>Die Liste</translation>
         </message>
         <message>
             <source>No.</source>
@@ -421,6 +395,41 @@ Kennwort:</translation>
         <message>
             <source>Select</source>
             <translation>Auswahl</translation>
+        </message>
+    </context>
+    <context>
+        <name>schedules::host::ProjectWindow</name>
+        <message>
+            <source>Templates that are in no list were found: %1</source>
+            <translation>Vorlagen, die in keiner Liste stehen, wurden gefunden: %1</translation>
+        </message>
+        <message>
+            <source>Add them</source>
+            <translation>Aufnehmen</translation>
+        </message>
+        <message>
+            <source>Template</source>
+            <translation>Vorlage</translation>
+        </message>
+        <message>
+            <source>Equipment Schedules</source>
+            <translation>Anlagenlisten</translation>
+        </message>
+        <message>
+            <source>%1 - Equipment Schedules</source>
+            <translation>%1 - Anlagenlisten</translation>
+        </message>
+        <message>
+            <source>This project has no categories yet. Import a table of them.</source>
+            <translation>Dieses Projekt hat noch keine Kategorien. Importieren Sie eine Tabelle davon.</translation>
+        </message>
+        <message>
+            <source>Choose a category at the left.</source>
+            <translation>Wählen Sie links eine Kategorie.</translation>
+        </message>
+        <message>
+            <source>Imported %1 tags and %2 values</source>
+            <translation>%1 Kennzeichen und %2 Werte importiert</translation>
         </message>
         <message>
             <source>The schedule shows the former template until its values are saved or discarded.</source>

@@ -263,7 +263,7 @@
         </message>
     </context>
     <context>
-        <name>schedules::host::ProjectWindow</name>
+        <name>schedules::host::ProjectDialogs</name>
         <message>
             <source>%1
 Password:</source>
@@ -271,41 +271,44 @@ Password:</source>
 Mot de passe :</translation>
         </message>
         <message>
-            <source>Templates that are in no list were found: %1</source>
-            <translation>Des modèles absents de toute liste ont été trouvés : %1</translation>
-        </message>
-        <message>
-            <source>Add them</source>
-            <translation>Les ajouter</translation>
-        </message>
-        <message>
-            <source>The schedule</source>
-            <translation>La nomenclature</translation>
-        </message>
-        <message>
-            <source>Template</source>
-            <translation>Modèle</translation>
-        </message>
-        <message>
-            <source>Equipment Schedules</source>
-            <translation>Nomenclatures d’équipements</translation>
-        </message>
-        <message>
-            <source>%1 - Equipment Schedules</source>
-            <translation>%1 - Nomenclatures d’équipements</translation>
-        </message>
-        <message>
-            <source>This project has no categories yet. Import a table of them.</source>
-            <translation>Ce projet n’a pas encore de catégories. Importez-en un tableau.</translation>
-        </message>
-        <message>
-            <source>Choose a category at the left.</source>
-            <translation>Choisissez une catégorie à gauche.</translation>
-        </message>
-        <message>
             <source>Projects (*%1);;All files (*)</source>
             <translation>Projets (*%1);;Tous les fichiers (*)</translation>
         </message>
+        <message>
+            <source>New project</source>
+            <translation>Nouveau projet</translation>
+        </message>
+        <message>
+            <source>Open a project</source>
+            <translation>Ouvrir un projet</translation>
+        </message>
+        <message>
+            <source>Open from a server</source>
+            <translation>Ouvrir depuis un serveur</translation>
+        </message>
+        <message>
+            <source>Address of the project:</source>
+            <translation>Adresse du projet :</translation>
+        </message>
+        <message>
+            <source>Import a table</source>
+            <translation>Importer un tableau</translation>
+        </message>
+        <message>
+            <source>Tables (*.csv *.txt);;All files (*)</source>
+            <translation>Tableaux (*.csv *.txt);;Tous les fichiers (*)</translation>
+        </message>
+        <message>
+            <source>About Equipment Schedules</source>
+            <translation>À propos des nomenclatures d’équipements</translation>
+        </message>
+        <message>
+            <source>&lt;h3&gt;Equipment Schedules %1&lt;/h3&gt;&lt;p&gt;The reference host of the schedule component: it shows the equipment of a project, and lists what the component and its host say to each other.&lt;/p&gt;</source>
+            <translation>&lt;h3&gt;Nomenclatures d’équipements %1&lt;/h3&gt;&lt;p&gt;Le programme de référence du composant : il affiche les équipements d’un projet et liste ce que le composant et son hôte se disent.&lt;/p&gt;</translation>
+        </message>
+    </context>
+    <context>
+        <name>schedules::host::ProjectMenus</name>
         <message>
             <source>&amp;File</source>
             <translation>&amp;Fichier</translation>
@@ -374,41 +377,12 @@ Mot de passe :</translation>
             <source>&amp;About</source>
             <translation>À &amp;propos</translation>
         </message>
+    </context>
+    <context>
+        <name>schedules::host::ProjectViews</name>
         <message>
-            <source>New project</source>
-            <translation>Nouveau projet</translation>
-        </message>
-        <message>
-            <source>Open a project</source>
-            <translation>Ouvrir un projet</translation>
-        </message>
-        <message>
-            <source>Open from a server</source>
-            <translation>Ouvrir depuis un serveur</translation>
-        </message>
-        <message>
-            <source>Address of the project:</source>
-            <translation>Adresse du projet :</translation>
-        </message>
-        <message>
-            <source>Import a table</source>
-            <translation>Importer un tableau</translation>
-        </message>
-        <message>
-            <source>Tables (*.csv *.txt);;All files (*)</source>
-            <translation>Tableaux (*.csv *.txt);;Tous les fichiers (*)</translation>
-        </message>
-        <message>
-            <source>Imported %1 tags and %2 values</source>
-            <translation>%1 repères et %2 valeurs importés</translation>
-        </message>
-        <message>
-            <source>About Equipment Schedules</source>
-            <translation>À propos des nomenclatures d’équipements</translation>
-        </message>
-        <message>
-            <source>&lt;h3&gt;Equipment Schedules %1&lt;/h3&gt;&lt;p&gt;The reference host of the schedule component: it shows the equipment of a project, and lists what the component and its host say to each other.&lt;/p&gt;</source>
-            <translation>&lt;h3&gt;Nomenclatures d’équipements %1&lt;/h3&gt;&lt;p&gt;Le programme de référence du composant : il affiche les équipements d’un projet et liste ce que le composant et son hôte se disent.&lt;/p&gt;</translation>
+            <source>The schedule</source>
+            <translation>La nomenclature</translation>
         </message>
         <message>
             <source>No.</source>
@@ -421,6 +395,41 @@ Mot de passe :</translation>
         <message>
             <source>Select</source>
             <translation>Choix</translation>
+        </message>
+    </context>
+    <context>
+        <name>schedules::host::ProjectWindow</name>
+        <message>
+            <source>Templates that are in no list were found: %1</source>
+            <translation>Des modèles absents de toute liste ont été trouvés : %1</translation>
+        </message>
+        <message>
+            <source>Add them</source>
+            <translation>Les ajouter</translation>
+        </message>
+        <message>
+            <source>Template</source>
+            <translation>Modèle</translation>
+        </message>
+        <message>
+            <source>Equipment Schedules</source>
+            <translation>Nomenclatures d’équipements</translation>
+        </message>
+        <message>
+            <source>%1 - Equipment Schedules</source>
+            <translation>%1 - Nomenclatures d’équipements</translation>
+        </message>
+        <message>
+            <source>This project has no categories yet. Import a table of them.</source>
+            <translation>Ce projet n’a pas encore de catégories. Importez-en un tableau.</translation>
+        </message>
+        <message>
+            <source>Choose a category at the left.</source>
+            <translation>Choisissez une catégorie à gauche.</translation>
+        </message>
+        <message>
+            <source>Imported %1 tags and %2 values</source>
+            <translation>%1 repères et %2 valeurs importés</translation>
         </message>
         <message>
             <source>The schedule shows the former template until its values are saved or discarded.</source>

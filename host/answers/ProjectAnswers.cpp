@@ -1,11 +1,11 @@
 #include "host/answers/ProjectAnswers.h"
 
-#include "host/HostError.h"
-#include "host/HostRouter.h"
+#include "host/base/HostError.h"
 #include "host/project/Names.h"
 #include "host/project/Project.h"
 #include "host/project/TemplateListXml.h"
 #include "host/schedule/EditedCells.h"
+#include "host/tools/HostRouter.h"
 
 #include <algorithm>
 #include <span>
@@ -111,7 +111,8 @@ std::span<const ProjectAnswers::Binding> ProjectAnswers::Bindings()
     return kBindings;
 }
 
-ProjectAnswers::ProjectAnswers(HostRouter& router, Project& project, TemplateFolder& folder, ConflictQuestion conflicts)
+ProjectAnswers::ProjectAnswers(HostRouter& router, Project& project, LaidOutTemplates& folder,
+                               ConflictQuestion conflicts)
     : m_router(router), m_project(project), m_folder(folder), m_conflicts(std::move(conflicts))
 {
     for (const Binding& binding : Bindings())

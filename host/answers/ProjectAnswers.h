@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/answers/TemplateFolder.h"
+#include "host/answers/LaidOutTemplates.h"
 #include "host/project/ProjectTypes.h"
 
 #include <QObject>
@@ -33,7 +33,7 @@ class ProjectAnswers : public QObject
 
 public:
     /// All of them must outlive this object.
-    ProjectAnswers(HostRouter& router, Project& project, TemplateFolder& folder, ConflictQuestion conflicts);
+    ProjectAnswers(HostRouter& router, Project& project, LaidOutTemplates& folder, ConflictQuestion conflicts);
     ~ProjectAnswers() override;
 
     /// The category that is being worked on.
@@ -89,7 +89,7 @@ private:
 
     HostRouter& m_router;
     Project& m_project;
-    TemplateFolder& m_folder;
+    LaidOutTemplates& m_folder;
     ConflictQuestion m_conflicts;
     QString m_category;
     QList<TemplateEntry> m_shown; ///< the list as it was last sent

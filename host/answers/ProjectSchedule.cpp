@@ -1,6 +1,6 @@
 #include "host/answers/ProjectSchedule.h"
 
-#include "host/HostError.h"
+#include "host/base/HostError.h"
 #include "host/project/Names.h"
 #include "host/project/Project.h"
 

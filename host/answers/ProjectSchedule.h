@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/schedule/ScheduleBuilder.h"
+#include "host/schedule/SelectionTable.h"
 
 namespace schedules::host {
 

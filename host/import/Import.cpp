@@ -1,9 +1,9 @@
 #include "host/import/Import.h"
 
-#include "host/HostError.h"
+#include "host/base/HostError.h"
 #include "host/import/Headings.h"
 #include "host/import/RecordTables.h"
-#include "host/import/TagTable.h"
+#include "host/import/TagRows.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -29,7 +29,7 @@ QByteArray Content(const QString& fileName)
 Project::Content ReadTable(const CsvTable& table, const Project& project, TableErrors& errors)
 {
     if (HasHeading(table, kTagHeading))
-        return ReadTagTable(table, project, errors);
+        return ReadTagRows(table, project, errors);
     if (HasHeading(table, kLocationHeading))
         return ReadItemTable(table, project, errors);
     if (HasHeading(table, kNameHeading))

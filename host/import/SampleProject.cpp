@@ -1,8 +1,8 @@
 #include "host/import/SampleProject.h"
 
-#include "host/HostError.h"
+#include "host/base/DataFolder.h"
+#include "host/base/HostError.h"
 #include "host/import/Import.h"
-#include "host/project/DataFolder.h"
 #include "host/project/Project.h"
 #include "host/project/ProjectFile.h"
 #include "host/project/TemplateListXml.h"

@@ -1,6 +1,6 @@
 #include "host/import/TableErrors.h"
 
-#include "host/HostError.h"
+#include "host/base/HostError.h"
 
 #include <QStringList>
 

@@ -1,6 +1,6 @@
 #include "host/project/Project.h"
 
-#include "host/HostError.h"
+#include "host/base/HostError.h"
 #include "host/project/EquipmentStore.h"
 #include "host/project/ProjectFile.h"
 #include "host/project/Schema.h"

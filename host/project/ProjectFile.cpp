@@ -1,6 +1,6 @@
 #include "host/project/ProjectFile.h"
 
-#include "host/HostError.h"
+#include "host/base/HostError.h"
 #include "host/project/Database.h"
 
 #include <QFile>

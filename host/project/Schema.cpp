@@ -1,6 +1,6 @@
 #include "host/project/Schema.h"
 
-#include "host/HostError.h"
+#include "host/base/HostError.h"
 #include "host/project/ProjectFile.h"
 #include "host/project/Transaction.h"
 

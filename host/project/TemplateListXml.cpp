@@ -1,7 +1,7 @@
 #include "host/project/TemplateListXml.h"
 
 #include "framework/Message.h"
-#include "host/HostError.h"
+#include "host/base/HostError.h"
 
 #include <QXmlStreamReader>
 

@@ -1,6 +1,6 @@
 #include "host/project/TemplateStore.h"
 
-#include "host/HostError.h"
+#include "host/base/HostError.h"
 #include "host/project/Database.h"
 #include "host/project/NamedRows.h"
 #include "host/project/TemplateMerge.h"

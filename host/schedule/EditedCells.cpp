@@ -1,6 +1,6 @@
 #include "host/schedule/EditedCells.h"
 
-#include "host/HostError.h"
+#include "host/base/HostError.h"
 #include "host/schedule/NumberText.h"
 #include "host/schedule/TableText.h"
 #include "host/schedule/Units.h"

@@ -31,17 +31,4 @@ QStringList LocationsShown(const TemplateLayout& layout);
 /// unless that is 0: so that the table tells what its edits mean when it comes back.
 QString ScheduleXml(const TemplateLayout& layout, const ScheduleContent& content);
 
-/// What stands before the rows of a selection that no item makes.
-struct SelectionCaptions
-{
-    QString number;
-    QString tag;
-    QString select;
-};
-
-/// The table of a selector view: tags one beside the other, a check box for each, and below them what `content` knows,
-/// in the units in which it is stored. What the user may tick are these check boxes alone: an item of this type is
-/// shown as a mark.
-QString SelectionXml(const SelectionCaptions& captions, const ScheduleContent& content);
-
 } // namespace schedules::host

@@ -1,4 +1,5 @@
-#include "host/schedule/ScheduleBuilder.h"
+#include "host/schedule/SelectionTable.h"
+
 #include "host/schedule/TableText.h"
 
 namespace schedules::host {

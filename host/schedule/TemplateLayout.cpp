@@ -1,6 +1,6 @@
 #include "host/schedule/TemplateLayout.h"
 
-#include "host/HostError.h"
+#include "host/base/HostError.h"
 #include "model/CProperties.h"
 #include "model/PropertyValue.h"
 

@@ -67,6 +67,13 @@ ConflictDialog::ConflictDialog(const QList<Conflict>& conflicts, const QList<Dat
     resize(80 * fontMetrics().averageCharWidth(), 18 * fontMetrics().height());
 }
 
+std::optional<QList<ValueEdit>> ConflictDialog::Ask(const QList<Conflict>& conflicts, const QList<DataItem>& items,
+                                                    QWidget* parent)
+{
+    ConflictDialog dialog(conflicts, items, parent);
+    return dialog.exec() == Accepted ? std::optional(dialog.Insisted()) : std::nullopt;
+}
+
 void ConflictDialog::Fill(const QList<DataItem>& items)
 {
     m_table->setObjectName(QStringLiteral("lstConflicts"));

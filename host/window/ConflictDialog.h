@@ -4,6 +4,8 @@
 
 #include <QDialog>
 
+#include <optional>
+
 class QTableWidget;
 
 namespace schedules::host {
@@ -17,6 +19,10 @@ class ConflictDialog : public QDialog
 
 public:
     ConflictDialog(const QList<Conflict>& conflicts, const QList<DataItem>& items, QWidget* parent = nullptr);
+
+    /// What the user wants, as `Insisted`; nothing when the dialog was cancelled.
+    static std::optional<QList<ValueEdit>> Ask(const QList<Conflict>& conflicts, const QList<DataItem>& items,
+                                               QWidget* parent);
 
     /// The edits that are to be stored all the same, as edits of what is stored now. None when the dialog was
     /// cancelled.

@@ -1,6 +1,6 @@
 #include "host/window/HelpWindow.h"
 
-#include "host/project/DataFolder.h"
+#include "host/base/DataFolder.h"
 
 #include <QDir>
 #include <QTextBrowser>

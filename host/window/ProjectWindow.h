@@ -1,30 +1,27 @@
 #pragma once
 
-#include "host/Answering.h"
-#include "host/CommandLine.h"
 #include "host/answers/ProjectAnswers.h"
 #include "host/project/Project.h"
-#include "host/schedule/ScheduleBuilder.h"
+#include "host/window/Answering.h"
 #include "host/window/HostSettings.h"
+#include "host/window/Palettes.h"
 
 #include <QMainWindow>
 
 #include <memory>
-#include <optional>
-
-class QActionGroup;
-class QLabel;
-class QMenu;
-class QStackedWidget;
 
 namespace schedules::host {
 
 class CategoryDock;
+class EditorDock;
+class GuardedSteps;
 class HelpWindow;
+class HostedEditor;
+class HostedSchedule;
 class MessageBar;
 class MessageDock;
-class OptionsTool;
-class ScheduleTool;
+class ProjectMenus;
+class ProjectViews;
 class Session;
 struct Crossing;
 
@@ -57,8 +54,8 @@ public:
     void UseColours(Palette palette);
 
     /// The view that is shown; none before a category is chosen.
-    ScheduleTool* View() const { return m_view.get(); }
-    OptionsTool* Options() const { return m_options.get(); }
+    HostedSchedule* View() const;
+    HostedEditor* Options() const;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -69,97 +66,51 @@ private:
     struct OpenProject
     {
         std::unique_ptr<Project> project;
-        std::unique_ptr<TemplateFolder> folder;
+        std::unique_ptr<LaidOutTemplates> folder;
         std::unique_ptr<ProjectAnswers> answers;
     };
 
-    /// What the schedule view shows, as it was read.
-    struct ShownSchedule
-    {
-        QString category;
-        QStringList tags;
-        TemplateLayout layout;
-        ScheduleContent content;
-    };
-
     void BuildDocks();
-    void BuildMenus();
-    void BuildFileMenu();
-    void BuildViewMenu();
-    void BuildHelpMenu();
-    void BuildChoices(QMenu& menu, const QStringList& names, const QStringList& values, QActionGroup*& group,
-                      void (ProjectWindow::*chosen)(const QString&));
-    void CheckChoices();
-    void ListRecent();
+    void Connect();
+    void ConnectMenus();
+    void ConnectAnswers(const ProjectAnswers& answers);
     void Restore();
     void Retranslate();
 
     void AskNew();
-    void AskOpen();
-    void AskServer();
+    void OpenChosen(const QString& address);
     void AskImport();
     void ShowHelp(const QString& context);
-    void ShowAbout();
     void ChooseLanguage(const QString& language);
-    void ChoosePalette(const QString& palette);
-    void ShowIn(Palette palette);
 
-    void Connect();
-    void ConnectAnswers(const ProjectAnswers& answers);
     void ListCategories();
     void OfferOrphans();
     void AdoptOrphans();
-
     void ChooseCategory(const QString& category);
     void ChooseTemplate(const QString& category, const QString& fileName);
-    void ShowSelector(const QString& category);
-    void ShowSchedule(const QString& category, const QStringList& tags, const TemplateLayout& layout);
-    void ShowPicked(const QStringList& tags);
     void UseTemplate(const QString& xml);
-    void TakeView(host::View kind, const QString& category, const QString& xml);
-    void EndView();
+
     void LeaveView();
     void Refresh();
-    void Reload();
     void Freshen(const QList<ValueEdit>& edited, int stored, bool differs);
     void FollowOthers();
-
-    void ShowOptions();
-    void EndOptions();
-    bool MayDropTemplate();
-    bool MayReplaceView();
+    void TellOfOthers(int values);
     bool MayClose();
-
-    std::optional<QList<ValueEdit>> AskConflicts(const QList<Conflict>& conflicts);
     void OnCrossed(const Crossing& crossing);
-    void TellError(const QString& error);
-
-    /// Does something, or later, when the message that asked for it is over. What fails is told in the bar.
-    void Guarded(const std::function<void()>& step);
-    void Later(std::function<void()> step);
 
     Session& m_session;
-    Answering m_answering;
     ConflictQuestion m_conflicts;
     HostSettings m_settings;
-    QString m_language;
-    QString m_palette;
-    QMenu* m_recent = nullptr;
-    QActionGroup* m_languages = nullptr;
-    QActionGroup* m_palettes = nullptr;
     MessageBar* m_bar;
-    QStackedWidget* m_place;
-    QLabel* m_invitation;
+    GuardedSteps* m_steps;
+    ProjectViews* m_views;
     CategoryDock* m_categories;
-    QDockWidget* m_optionsDock;
+    EditorDock* m_editor;
     MessageDock* m_messages;
+    ProjectMenus* m_menus;
     HelpWindow* m_help = nullptr;
     OpenProject m_open;
-    std::unique_ptr<ScheduleTool> m_view;
-    std::unique_ptr<OptionsTool> m_options;
-    std::optional<ShownSchedule> m_schedule; ///< nothing while the selector is shown
-    bool m_viewDone = false;                 ///< the view has told to unload it
-    QString m_failure;                       ///< why the last message but for errors was not answered
+    QString m_language;
 };
 
 } // namespace schedules::host

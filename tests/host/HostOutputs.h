@@ -1,6 +1,6 @@
 #pragma once
 
-#include "HostProgram.h"
+#include "host/HostProgram.h"
 
 #include <QRegularExpression>
 

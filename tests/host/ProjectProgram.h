@@ -1,6 +1,6 @@
 #pragma once
 
-#include "HostOutputs.h"
+#include "host/HostOutputs.h"
 #include "host/answers/SmallProject.h"
 #include "host/project/Project.h"
 

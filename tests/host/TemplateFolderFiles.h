@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/TemplateFiles.h"
+#include "host/answers/TemplateFileAnswers.h"
 
 #include <QDir>
 #include <QFile>

@@ -216,7 +216,7 @@ TEST(Docs, EveryNameOfCodeIsInTheSources)
 
 TEST(Docs, TheUsersGuideHasEveryCommand)
 {
-    const QStringList commands = Captured(ContentOf("host/CommandLineOptions.cpp"), R"re(\{"(\w+)", Form::)re");
+    const QStringList commands = Captured(ContentOf("host/cli/CommandLineOptions.cpp"), R"re(\{"(\w+)", Form::)re");
     ASSERT_GE(commands.size(), 12);
     const QString page = ContentOf("docs/user-guide.md");
     for (const QString& command : commands)

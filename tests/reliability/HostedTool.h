@@ -1,7 +1,7 @@
 #pragma once
 
 #include "framework/IToolUI.h"
-#include "host/CreatedTool.h"
+#include "host/tools/CreatedTool.h"
 #include "spread/Sheet.h"
 
 #include <QAbstractButton>

@@ -2,11 +2,11 @@
 // folder, and are nobody's markup.
 
 #include "TemplateHost.h"
-#include "host/HostError.h"
-#include "host/MessageModel.h"
-#include "host/Warning.h"
+#include "host/answers/LaidOutTemplates.h"
 #include "host/answers/SmallProject.h"
-#include "host/answers/TemplateFolder.h"
+#include "host/base/HostError.h"
+#include "host/tools/MessageModel.h"
+#include "host/window/Warning.h"
 #include "support/ModalDialog.h"
 #include "support/ScriptedUserInterface.h"
 
@@ -53,7 +53,7 @@ struct SecurityNames : host::testing::SmallProject
 
 TEST_F(SecurityNames, OfAProjectsTemplatesLeadToNoOtherFile)
 {
-    host::TemplateFolder folder(*project, Folder());
+    host::LaidOutTemplates folder(*project, Folder());
     folder.LayOut();
     const std::string before = Drawn(Path("own"));
     for (const QString& name : kLeadingAway) {
@@ -70,7 +70,7 @@ TEST_F(SecurityNames, OfAProjectsTemplatesLeadToNoOtherFile)
 TEST_F(SecurityNames, ABadOneIsToldBeforeAnythingIsWritten)
 {
     AddTemplate("../outside.xml");
-    host::TemplateFolder folder(*project, Folder());
+    host::LaidOutTemplates folder(*project, Folder());
     try {
         folder.LayOut();
         ADD_FAILURE();

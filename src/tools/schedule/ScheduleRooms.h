@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tools/schedule/ViewLink.h"
 #include "tools/schedule/edits/CellEditing.h"
 #include "tools/schedule/edits/EditSession.h"
 #include "tools/schedule/output/Exports.h"
@@ -15,9 +16,9 @@ namespace schedules {
 struct ScheduleRooms
 {
     ScheduleRooms(const ViewLink& link, const ViewSettings& settings, SpreadView& grid)
-        : table(link.user, grid),
-          edits(table),
-          editing(table, edits, settings),
+        : table(link.host, grid),
+          edits(link.host, table),
+          editing(link.host, table, edits, settings),
           sorting(grid),
           picking(table, editing, edits, settings),
           showing(link, settings, table, edits, editing, sorting),

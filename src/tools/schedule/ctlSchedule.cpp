@@ -22,7 +22,7 @@ namespace schedules {
 
 ctlSchedule::ctlSchedule(UserInterface* userInterface)
     : ToolControl("ctlSchedule", userInterface),
-      m_link(MakeLink(userInterface)),
+      m_link(LinkFor(userInterface)),
       m_layout(*this),
       m_rooms(std::make_unique<ScheduleRooms>(m_link, m_settings, *m_layout.grid)),
       m_commands(std::make_unique<ViewCommands>(m_link, m_settings, *m_rooms)),
@@ -44,19 +44,11 @@ ctlSchedule::~ctlSchedule()
     TraceProcedure("UserControl_Terminate");
 }
 
-ViewLink ctlSchedule::MakeLink(UserInterface* userInterface)
+ViewLink ctlSchedule::LinkFor(UserInterface* userInterface)
 {
-    return {.view = *this,
-            .user = userInterface ? *userInterface : Own(std::make_unique<DesktopUserInterface>(this)),
-            .event = [this](QStringView name, ViewLink::Values values) { SendEventToOwner(Event(name, values)); },
-            .request =
-                [this](QStringView name, ViewLink::Values values) {
-                    const PointerReset reset(*this);
-                    Ui().SetPointer(Pointer::Hourglass);
-                    SendRequestToOwner(Request(name, values));
-                },
-            .tellingHost = [this](const char* procedure, const ViewLink::Body& body) { TellingHost(procedure, body); },
-            .tellingUser = [this](const char* procedure, const ViewLink::Body& body) { TellingUser(procedure, body); }};
+    if (!userInterface)
+        Own(std::make_unique<DesktopUserInterface>(this));
+    return {*this, Link()};
 }
 
 void ctlSchedule::ConnectControls()
@@ -157,10 +149,10 @@ void ctlSchedule::BuildExportMenu()
 /// Closing the window that is this view is what its last button does.
 void ctlSchedule::closeEvent(QCloseEvent* event)
 {
-    const QPointer<ctlSchedule> alive(this);
+    const ToolLife::Watch watch(Life());
     if (!m_commands->Closing().IsUnloaded() && IsConnected())
         cmdCancel_Click();
-    event->setAccepted(!alive || m_commands->Closing().IsUnloaded() || !IsConnected());
+    event->setAccepted(!watch.IsAlive() || m_commands->Closing().IsUnloaded() || !IsConnected());
 }
 
 /// The grid is what a host means that gives the view the focus. It is no proxy: Tab, which comes from somewhere else,

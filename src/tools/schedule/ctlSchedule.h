@@ -150,7 +150,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    ViewLink MakeLink(UserInterface* userInterface);
+    ViewLink LinkFor(UserInterface* userInterface);
     void ConnectControls();
     void ConnectProperties();
     void InitializeControls();

@@ -4,8 +4,8 @@
 
 #include "SmallProject.h"
 #include "framework/MessageTable.h"
-#include "host/HostError.h"
-#include "host/HostRouter.h"
+#include "host/base/HostError.h"
+#include "host/tools/HostRouter.h"
 
 namespace schedules::host::testing {
 
@@ -73,7 +73,7 @@ struct ProjectAnswersTest : SmallProject
     bool decides = true;
     std::function<bool()> insists = [] { return false; };
     HostRouter router;
-    TemplateFolder folder{*project, Path(QStringLiteral("templates"))};
+    LaidOutTemplates folder{*project, Path(QStringLiteral("templates"))};
     ProjectAnswers answers{router, *project, folder, [this](const QList<Conflict>& found) {
                                conflicts = found;
                                if (!decides)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/XmlFile.h"
+#include "host/files/XmlFile.h"
 #include "host/project/Project.h"
 #include "host/project/TemplateListXml.h"
 

@@ -1,6 +1,6 @@
 #include "host/import/CsvTable.h"
 
-#include "host/HostError.h"
+#include "host/base/HostError.h"
 
 #include <gtest/gtest.h>
 

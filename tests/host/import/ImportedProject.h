@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/HostError.h"
+#include "host/base/HostError.h"
 #include "host/import/Import.h"
 #include "host/project/Project.h"
 

@@ -125,7 +125,7 @@ public:
     {
         OpenWindow window(Address());
         const auto project = Project::Open(Address());
-        const TemplateFolder folder(*project, m_templates);
+        const LaidOutTemplates folder(*project, m_templates);
         const QStringList orphans = folder.Orphans();
         const QString offer = "Templates that are in no list were found: " + orphans.join(", ");
         EXPECT_EQ(window.User().Told(), orphans.isEmpty() ? "" : offer.toStdString());

@@ -2,8 +2,8 @@
 
 #include "JourneyFolder.h"
 #include "OpenWindow.h"
-#include "host/ScheduleTool.h"
 #include "host/import/SampleProject.h"
+#include "host/tools/HostedSchedule.h"
 
 #include <QFileInfo>
 

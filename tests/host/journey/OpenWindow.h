@@ -1,7 +1,7 @@
 #pragma once
 
 #include "WindowUser.h"
-#include "host/Session.h"
+#include "host/tools/Session.h"
 #include "host/window/ProjectWindow.h"
 
 #include <memory>
@@ -20,7 +20,7 @@ public:
     Session& Host() { return m_session; }
 
 private:
-    Session m_session{CommandLine()};
+    Session m_session{SessionOptions()};
     ProjectWindow m_window;
     WindowUser m_user;
 };

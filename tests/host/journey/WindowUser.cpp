@@ -1,7 +1,7 @@
 #include "WindowUser.h"
 
-#include "host/OptionsTool.h"
-#include "host/ScheduleTool.h"
+#include "host/tools/HostedEditor.h"
+#include "host/tools/HostedSchedule.h"
 #include "host/window/ProjectWindow.h"
 #include "support/ModalDialog.h"
 

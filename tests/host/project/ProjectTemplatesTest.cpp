@@ -1,5 +1,5 @@
 #include "StoredProject.h"
-#include "host/HostError.h"
+#include "host/base/HostError.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "TestServer.h"
-#include "host/HostError.h"
+#include "host/base/HostError.h"
 #include "host/project/Project.h"
 
 #include <QStringList>

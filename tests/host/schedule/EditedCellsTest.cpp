@@ -1,7 +1,7 @@
 #include "host/schedule/EditedCells.h"
 
 #include "Drawings.h"
-#include "host/HostError.h"
+#include "host/base/HostError.h"
 
 #include <functional>
 #include <gtest/gtest.h>

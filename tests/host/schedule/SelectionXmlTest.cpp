@@ -2,6 +2,7 @@
 #include "Pumps.h"
 #include "ShownView.h"
 #include "host/schedule/EditedCells.h"
+#include "host/schedule/SelectionTable.h"
 #include "support/SheetDrawing.h"
 
 namespace schedules::host::testing {

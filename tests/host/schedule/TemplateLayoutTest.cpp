@@ -1,7 +1,7 @@
 #include "host/schedule/TemplateLayout.h"
 
 #include "Drawings.h"
-#include "host/HostError.h"
+#include "host/base/HostError.h"
 
 #include <gtest/gtest.h>
 

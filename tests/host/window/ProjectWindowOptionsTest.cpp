@@ -1,7 +1,7 @@
 // The options editor beside the schedule, and closing with something unsaved.
 
 #include "ShownProject.h"
-#include "host/OptionsUser.h"
+#include "host/tools/OptionsUser.h"
 
 #include <QAbstractItemView>
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "host/OptionsTool.h"
-#include "host/ScheduleTool.h"
-#include "host/ScheduleUser.h"
-#include "host/Session.h"
 #include "host/answers/SmallProject.h"
+#include "host/tools/HostedEditor.h"
+#include "host/tools/HostedSchedule.h"
+#include "host/tools/ScheduleUser.h"
+#include "host/tools/Session.h"
 #include "host/window/ProjectWindow.h"
 #include "spread/Sheet.h"
 #include "support/ScriptedUserInterface.h"
@@ -53,7 +53,7 @@ protected:
         ASSERT_TRUE(window->Open(Address()));
     }
 
-    ScheduleTool& View() const { return *window->View(); }
+    HostedSchedule& View() const { return *window->View(); }
     Sheet& Grid() const { return View().Grid(); }
     std::string TextAt(int column, int row) const { return Grid().Text({Column(column), Row(row)}).toStdString(); }
     bool ShowsSelector() const { return View().Widget().property("ViewType").toInt() == int(host::View::Selector); }
@@ -172,20 +172,13 @@ protected:
         return edits;
     }
 
-    static CommandLine English()
-    {
-        CommandLine commandLine;
-        commandLine.language = QStringLiteral("en");
-        return commandLine;
-    }
-
     schedules::testing::ScriptedUserInterface user;
     std::deque<UnsavedValues> unsaved; ///< the answers to come
     QStringList asked;
     QList<Conflict> conflicts;
     bool decides = true; ///< in conflicts
     bool insists = false;
-    Session session{English()};
+    Session session{SessionOptions()};
     std::unique_ptr<ProjectWindow> window;
 };
 

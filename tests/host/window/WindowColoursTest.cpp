@@ -1,7 +1,7 @@
 // The colours of the window from one start to the next.
 
 #include "ShownProject.h"
-#include "host/Palettes.h"
+#include "host/window/Palettes.h"
 
 namespace schedules::host::testing {
 

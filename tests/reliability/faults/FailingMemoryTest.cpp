@@ -3,11 +3,11 @@
 
 #include "FailingMemory.h"
 
-#include "host/ConsoleUserInterface.h"
-#include "host/GridJson.h"
-#include "host/ScheduleTool.h"
-#include "host/Session.h"
-#include "host/XmlFile.h"
+#include "host/cli/GridJson.h"
+#include "host/files/XmlFile.h"
+#include "host/tools/ConsoleUserInterface.h"
+#include "host/tools/HostedSchedule.h"
+#include "host/tools/Session.h"
 #include "model/CTemplates.h"
 
 #include <QFile>
@@ -74,8 +74,8 @@ public:
     }
 
 private:
-    Session m_session{CommandLine()};
-    ScheduleTool m_tool;
+    Session m_session{SessionOptions()};
+    HostedSchedule m_tool;
     QString m_text;
 };
 

@@ -1,6 +1,6 @@
 #include "FolderFiles.h"
 
-#include "host/HostError.h"
+#include "host/base/HostError.h"
 #include "host/project/Project.h"
 #include "host/project/Transaction.h"
 

@@ -1,16 +1,16 @@
 #include "Saving.h"
-#include "host/HostError.h"
-#include "host/LoadedTool.h"
-#include "host/OptionsTool.h"
-#include "host/OptionsUser.h"
-#include "host/Picture.h"
-#include "host/TemplateFiles.h"
 #include "host/TemplateFolderFiles.h"
-#include "host/XmlFile.h"
+#include "host/answers/LaidOutTemplates.h"
 #include "host/answers/SmallProject.h"
-#include "host/answers/TemplateFolder.h"
+#include "host/answers/TemplateFileAnswers.h"
+#include "host/base/HostError.h"
+#include "host/cli/LoadedTool.h"
+#include "host/cli/Picture.h"
+#include "host/files/XmlFile.h"
 #include "host/import/SampleProject.h"
 #include "host/project/StoredProject.h"
+#include "host/tools/HostedEditor.h"
+#include "host/tools/OptionsUser.h"
 #include "support/ModalDialog.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TraceLog.h"
@@ -103,7 +103,7 @@ public:
             Write(m_fileName, "what there was before");
             Write(LogName(), "why it was not written before");
         }
-        m_session.emplace(CommandLine());
+        m_session.emplace(SessionOptions());
         m_tool.emplace(m_session->Router(), &m_user, ViewOptions{.view = View::Schedule});
         m_tool->Load(ReadXmlFile(QStringLiteral(SCHEDULES_SOURCE_DIR "/samples/air-handling.xml")));
         EXPECT_TRUE(m_user.boxes.empty());
@@ -131,7 +131,7 @@ private:
     QString m_fileName;
     ScriptedUserInterface m_user;
     std::optional<Session> m_session;
-    std::optional<ScheduleTool> m_tool;
+    std::optional<HostedSchedule> m_tool;
 };
 
 /// Tells a failure in the trace alone, as its protocol wants.
@@ -205,7 +205,7 @@ public:
         Write(folder + "/templates/Fans.xml", kFanTemplate);
         Write(folder + "/list.xml", kTemplateList);
         Write(folder + "/categories.xml", kCategoryList);
-        m_session.emplace(CommandLine());
+        m_session.emplace(SessionOptions());
         m_files.emplace(m_session->Router(), TemplatePlaces{folder + "/templates", folder + "/list.xml",
                                                             folder + "/categories.xml", "Pumps.xml"});
         Edit();
@@ -220,7 +220,7 @@ public:
     }
 
 protected:
-    OptionsTool& Editor() { return *m_editor; }
+    HostedEditor& Editor() { return *m_editor; }
 
 private:
     void Edit()
@@ -240,8 +240,8 @@ private:
     ConsoleUserInterface m_user;
     QString m_told;
     std::optional<Session> m_session;
-    std::optional<TemplateFiles> m_files;
-    std::optional<OptionsTool> m_editor;
+    std::optional<TemplateFileAnswers> m_files;
+    std::optional<HostedEditor> m_editor;
 };
 
 /// The same under a name of its own.
@@ -326,7 +326,7 @@ void ListNight(Project& project, const QString&)
 
 void LayOut(Project& project, const QString& folder)
 {
-    TemplateFolder(project, folder + "/templates").LayOut();
+    LaidOutTemplates(project, folder + "/templates").LayOut();
 }
 
 void LayOutDay(Project& project, const QString& folder)

@@ -1,11 +1,11 @@
 // Does with both tools what a host and its user do, on the files in the folder "in", into the folder "out". It is
 // watched meanwhile.
 
-#include "host/HostError.h"
-#include "host/OptionsTool.h"
-#include "host/ScheduleTool.h"
-#include "host/ScheduleUser.h"
-#include "host/XmlFile.h"
+#include "host/base/HostError.h"
+#include "host/files/XmlFile.h"
+#include "host/tools/HostedEditor.h"
+#include "host/tools/HostedSchedule.h"
+#include "host/tools/ScheduleUser.h"
 #include "support/FakeHost.h"
 #include "support/ScriptedUserInterface.h"
 
@@ -38,7 +38,7 @@ void Require(bool isTrue, const char* what)
 
 void WorkOnSchedule(testing::FakeHost& router, testing::ScriptedUserInterface& user)
 {
-    ScheduleTool tool(router, &user, {});
+    HostedSchedule tool(router, &user, {});
     tool.Widget().setProperty("CustomMsg", ReadXmlFile(In("message.txt")));
     tool.Load(ReadXmlFile(In("table.xml")));
     ScheduleUser(tool).Edit({1, 1, QStringLiteral("20")});
@@ -56,7 +56,7 @@ void WorkOnSchedule(testing::FakeHost& router, testing::ScriptedUserInterface& u
 
 void WorkOnTemplates(testing::FakeHost& router, testing::ScriptedUserInterface& user)
 {
-    OptionsTool editor(router, &user);
+    HostedEditor editor(router, &user);
     editor.Open();
     editor.Widget().show();
     Require(!editor.Widget().grab().isNull(), "there is no picture");

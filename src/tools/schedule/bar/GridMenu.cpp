@@ -56,8 +56,9 @@ void GridMenu::AddTicking(QMenu& menu)
     if (!m_table.Shown() || !m_settings.IsSelectorView())
         return;
     const auto add = [&](const char* text, TagPicking::Ticking ticking) {
-        menu.addAction(ComponentText(text), &m_link.view,
-                       [this, ticking] { m_link.tellingUser("TickVisible", [&] { m_picking.TickVisible(ticking); }); });
+        menu.addAction(ComponentText(text), &m_link.view, [this, ticking] {
+            m_link.host.TellingUser("TickVisible", [&] { m_picking.TickVisible(ticking); });
+        });
     };
     add(QT_TRANSLATE_NOOP("Schedules", "Select All"), TagPicking::Ticking::All);
     add(QT_TRANSLATE_NOOP("Schedules", "Select None"), TagPicking::Ticking::None);
@@ -71,7 +72,7 @@ void GridMenu::AddSorting(QMenu& menu)
         return;
     const RowOrder next = m_sorting.Next(m_table.Shown()->ActiveCell().column);
     menu.addAction(ComponentText(NameOf(next)), &m_link.view, [this] {
-        m_link.tellingUser("DoColSort", [this] {
+        m_link.host.TellingUser("DoColSort", [this] {
             m_commands.Begin();
             m_commands.DoColSort();
         });

@@ -28,9 +28,9 @@ void ViewClosing::Close()
 {
     if (std::exchange(m_leaving, true))
         return; // the host pumps events while it saves
-    const QPointer<QWidget> alive(&m_link.view);
+    const ToolLife::Watch watch(m_link.host.Life());
     const auto stay = qScopeGuard([&] {
-        if (alive)
+        if (watch.IsAlive())
             m_leaving = false;
     });
     if (MayUnload())
@@ -43,24 +43,23 @@ bool ViewClosing::MayUnload()
     if (!m_edits.TagDataDirty())
         return true;
     const bool isSavable = m_settings.IsScheduleView(); // as the user is asked, whatever the host sets meanwhile
-    auto answer = Answer::Cancel;
-    RequireOutlived(m_link.view, [&] {
-        answer = m_link.user.Show({QLatin1String(kSaveQuestion), kYesNoCancel, LoadResString(kUnsavedChangesTitle)});
+    const Answer answer = m_link.host.Life().WhileAlive([&] {
+        return m_link.host.Ui().Show({QLatin1String(kSaveQuestion), kYesNoCancel, LoadResString(kUnsavedChangesTitle)});
     });
     if (answer != Answer::Yes || !isSavable)
         return answer != Answer::Cancel;
-    RequireOutlived(m_link.view, m_save);
+    m_link.host.Life().WhileAlive(m_save);
     return !m_edits.TagDataDirty(); // what is edited while the host saves is worth another question
 }
 
 void ViewClosing::Unload()
 {
-    const QPointer<QWidget> alive(&m_link.view);
+    const ToolLife::Watch watch(m_link.host.Life());
     m_unloaded = true;
     try {
-        m_link.event(u"UnloadSchedule", {QStringLiteral("True")});
+        m_link.Tell(u"UnloadSchedule", {QStringLiteral("True")});
     } catch (...) {
-        if (alive)
+        if (watch.IsAlive())
             m_unloaded = false;
         throw;
     }

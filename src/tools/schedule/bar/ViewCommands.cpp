@@ -54,7 +54,7 @@ void ViewCommands::Do(ViewCommand command)
     case ViewCommand::Export:
         return m_rooms.exports.ExportToExcel();
     case ViewCommand::Customize:
-        return m_link.event(u"ShowOptions", {m_settings.builderPdsg});
+        return m_link.Tell(u"ShowOptions", {m_settings.builderPdsg});
     case ViewCommand::Help:
         return Help();
     case ViewCommand::Continue:
@@ -67,17 +67,19 @@ void ViewCommands::Do(ViewCommand command)
 void ViewCommands::Print()
 {
     if (m_settings.IsSelectorView())
-        m_link.tellingHost("PrintSelections", [this] { PrintSelections(); });
+        m_link.host.TellingHost("PrintSelections", [this] { PrintSelections(); });
     else
         m_rooms.printing.Print();
 }
 
 void ViewCommands::Help()
 {
-    m_link.request(u"ProcessSubscriberEvent",
-                   {QStringLiteral("cmdHelp"),
-                    QLatin1String(m_settings.IsSelectorView() ? kSelectorHelp : kScheduleHelp),
-                    QStringLiteral("ctlSchedule")});
+    const PointerReset reset(m_link.host);
+    m_link.host.Ui().SetPointer(Pointer::Hourglass);
+    m_link.host.SendRequestToOwner(HostLink::Request(
+        u"ProcessSubscriberEvent",
+        {QStringLiteral("cmdHelp"), QLatin1String(m_settings.IsSelectorView() ? kSelectorHelp : kScheduleHelp),
+         m_link.host.TypeName()}));
 }
 
 void ViewCommands::Save()
@@ -89,7 +91,7 @@ void ViewCommands::Save()
 void ViewCommands::SendEdits()
 {
     m_rooms.edits.Save([this](const QString& xml) {
-        m_link.event(u"UpdateTagScheduleData", {m_settings.builderPdsg, xml});
+        m_link.Tell(u"UpdateTagScheduleData", {m_settings.builderPdsg, xml});
     });
 }
 
@@ -97,19 +99,19 @@ void ViewCommands::Continue()
 {
     const SelectedTags selected = m_rooms.picking.GetSelectedTags();
     if (selected.count != 0)
-        return m_link.event(u"ContinueButton", {selected.xml});
-    m_link.user.Show({LoadResString(kNoTagSelected) + kTwoLines + LoadResString(kSelectTagToContinue), kInformation,
-                      LoadResString(kContinueCaption)});
+        return m_link.Tell(u"ContinueButton", {selected.xml});
+    m_link.host.Ui().Show({LoadResString(kNoTagSelected) + kTwoLines + LoadResString(kSelectTagToContinue),
+                           kInformation, LoadResString(kContinueCaption)});
 }
 
 void ViewCommands::PrintSelections()
 {
     const SelectedTags selected = m_rooms.picking.GetSelectedTags();
     if (selected.count != 0)
-        return m_link.event(u"PrintSelections", {selected.xml, m_settings.builderPdsg});
-    m_link.user.Show({LoadResString(kNothingToPrint) + kTwoLines + LoadResString(kSelectTagToPrint) + u' ' +
-                          LoadResString(kPrintAgain),
-                      kExclamation, LoadResString(kPrintSelectionsTitle)});
+        return m_link.Tell(u"PrintSelections", {selected.xml, m_settings.builderPdsg});
+    m_link.host.Ui().Show({LoadResString(kNothingToPrint) + kTwoLines + LoadResString(kSelectTagToPrint) + u' ' +
+                               LoadResString(kPrintAgain),
+                           kExclamation, LoadResString(kPrintSelectionsTitle)});
 }
 
 Entry ViewCommands::EnterText(Cell cell, const QString& text)

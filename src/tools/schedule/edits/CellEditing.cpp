@@ -4,13 +4,13 @@
 #include "controls/cells/CellContent.h"
 #include "controls/grid/CellEditBox.h"
 #include "controls/grid/SpreadView.h"
+#include "tools/HostLink.h"
 #include "tools/schedule/ViewSettings.h"
 #include "tools/schedule/edits/EditSession.h"
 #include "tools/schedule/table/ShownTable.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
-#include <QPointer>
 
 #include <algorithm>
 #include <utility>
@@ -56,8 +56,9 @@ void TypeInto(QLineEdit& box, const QString& text)
 
 } // namespace
 
-CellEditing::CellEditing(ShownTable& table, EditSession& edits, const ViewSettings& settings)
-    : m_table(table),
+CellEditing::CellEditing(HostLink& host, ShownTable& table, EditSession& edits, const ViewSettings& settings)
+    : m_host(host),
+      m_table(table),
       m_edits(edits),
       m_settings(settings),
       m_grid(table.Grid()),
@@ -150,10 +151,10 @@ void CellEditing::CommitCellEdit()
     IgnoringErrors([&] { text = m_box->FinishedValue(); });
     if (text != edit.previous)
         text = AsInTable(text);
-    const QPointer<CellEditing> alive(this); // a host that is told of the value may delete the view
+    const ToolLife::Watch watch(m_host.Life()); // a host that is told of the value may delete the view
     if (text != edit.previous)
         m_edits.Change(cell, text);
-    if (alive)
+    if (watch.IsAlive())
         IgnoringErrors([this] { CloseBox(); });
 }
 

@@ -13,6 +13,7 @@ namespace schedules {
 
 class CellEditBox;
 class EditSession;
+class HostLink;
 class ShownTable;
 class SpreadView;
 struct ViewSettings;
@@ -27,7 +28,7 @@ class CellEditing : public QObject
 
 public:
     /// All must outlive the editing, whose box (`txtEditCell`) is a child of the table's grid.
-    CellEditing(ShownTable& table, EditSession& edits, const ViewSettings& settings);
+    CellEditing(HostLink& host, ShownTable& table, EditSession& edits, const ViewSettings& settings);
     ~CellEditing() override;
 
     /// Whether the table lets the user change the cell at that place, now. Headers never.
@@ -101,6 +102,7 @@ private:
     std::optional<Cell> NextEditable(Cell from, int step);
     void FindEditableRows();
 
+    HostLink& m_host;
     ShownTable& m_table;
     EditSession& m_edits;
     const ViewSettings& m_settings;

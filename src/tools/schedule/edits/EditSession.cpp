@@ -2,9 +2,8 @@
 
 #include "common/Error.h"
 #include "grid/ScheduleTable.h"
+#include "tools/HostLink.h"
 #include "tools/schedule/table/ShownTable.h"
-
-#include <QPointer>
 
 #include <algorithm>
 #include <utility>
@@ -31,7 +30,7 @@ bool HaveSameHeaders(const CellStore& one, const CellStore& other)
 
 } // namespace
 
-EditSession::EditSession(ShownTable& table) : m_table(table) {}
+EditSession::EditSession(HostLink& host, ShownTable& table) : m_host(host), m_table(table) {}
 
 void EditSession::HandOver(const QString& xml)
 {
@@ -131,11 +130,11 @@ void EditSession::Save(const std::function<void(const QString& xml)>& send)
     FollowHost();
     const QString text = m_held.Text();
     const Taken taken = TakeUnsaved();
-    const QPointer<EditSession> alive(this);
+    const ToolLife::Watch watch(m_host.Life());
     try {
         send(text);
     } catch (...) {
-        if (alive)
+        if (watch.IsAlive())
             PutBack(taken);
         throw;
     }

@@ -13,6 +13,7 @@
 
 namespace schedules {
 
+class HostLink;
 class ShownTable;
 
 /// What has been edited and not saved: the one that knows. The document, the marks of the grid, `TagDataDirty` and the
@@ -27,8 +28,8 @@ class EditSession : public QObject
     Q_OBJECT
 
 public:
-    /// The table must outlive the session.
-    explicit EditSession(ShownTable& table);
+    /// Both must outlive the session.
+    EditSession(HostLink& host, ShownTable& table);
 
     /// Takes a text that waits for the next activation.
     void HandOver(const QString& xml);
@@ -89,6 +90,7 @@ private:
     void PutBack(const Taken& taken);
     void SetMark(Sheet::TablePlace place, bool edited);
 
+    HostLink& m_host;
     ShownTable& m_table;
     HeldDocument m_held;
     std::optional<Waiting> m_waiting;

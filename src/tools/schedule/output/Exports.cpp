@@ -41,7 +41,7 @@ void Exports::ExportBy(const QString& entry)
 void Exports::Export(const ExportFormat& format)
 {
     QString fileName;
-    RequireOutlived(m_link.view, [&] { fileName = m_link.user.AskSaveFileName(format.Question()); });
+    m_link.host.Life().WhileAlive([&] { fileName = m_link.host.Ui().AskSaveFileName(format.Question()); });
     if (fileName.isEmpty())
         return;
     const QString failure = FailureOfWriting(format, fileName);
@@ -54,14 +54,14 @@ void Exports::Export(const ExportFormat& format)
 void Exports::TellResult(const QString& fileName, const QString& failure)
 {
     if (failure.isEmpty()) {
-        m_link.user.Show({LoadResString(kExported) + kTwoLines + LoadResString(kExportedFile) + u' ' + fileName,
-                          kInformation, LoadResString(kExportTitle)});
+        m_link.host.Ui().Show({LoadResString(kExported) + kTwoLines + LoadResString(kExportedFile) + u' ' + fileName,
+                               kInformation, LoadResString(kExportTitle)});
         return;
     }
     const QString logName = fileName + QStringLiteral(".LOG");
     IgnoringErrors([&] { ReplaceFile(logName, (fileName + QStringLiteral(": ") + failure + u'\n').toUtf8()); });
-    m_link.user.Show({LoadResString(kNotExported) + kTwoLines + LoadResString(kExportLogFile) + u' ' + logName,
-                      kExclamation, LoadResString(kExportTitle)});
+    m_link.host.Ui().Show({LoadResString(kNotExported) + kTwoLines + LoadResString(kExportLogFile) + u' ' + logName,
+                           kExclamation, LoadResString(kExportTitle)});
 }
 
 QString Exports::WriteFile(const QString& format, const QString& fileName)

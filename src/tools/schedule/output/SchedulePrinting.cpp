@@ -12,7 +12,7 @@ namespace schedules {
 void SchedulePrinting::Print()
 {
     if (const auto job = JobOf(QPageSize(QPageSize::A4), PrintAction::Smart))
-        PrintDialogs(&m_link.view, m_link.user).Run(*job);
+        PrintDialogs(&m_link.view, m_link.host.Ui()).Run(*job);
 }
 
 QString SchedulePrinting::WritePdf(const QString& fileName, const PaperOptions& options)
@@ -34,7 +34,7 @@ std::optional<PrintJob> SchedulePrinting::JobOf(const QPageSize& paper, PrintAct
                          [&](const PrintJob& handedOver) { job = handedOver; });
     engine.SetSmartPrint(action == PrintAction::Smart);
     engine.SetSheetPrinter(&printer);
-    RequireOutlived(m_link.view, [&] { engine.PrintSched(); });
+    m_link.host.Life().WhileAlive([&] { engine.PrintSched(); });
     engine.SetSheetPrinter(nullptr);
     return job;
 }

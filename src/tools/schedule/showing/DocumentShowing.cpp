@@ -68,7 +68,7 @@ void DocumentShowing::Transpose()
     const Sheet& sheet = *m_table.Engine().Sched();
     const Sheet::TablePlace active = sheet.TablePlaceOf(sheet.ActiveCell());
     m_table.Turn();
-    RequireOutlived(m_table, [this] { ShowHeldOfView(); });
+    m_link.host.Life().WhileAlive([this] { ShowHeldOfView(); });
     GoTo(active);
 }
 
@@ -115,7 +115,7 @@ void DocumentShowing::StartAtTop()
 
 void DocumentShowing::ShowBox(int textNumber)
 {
-    RequireOutlived(m_table, [&] { m_link.user.Show({LoadResString(textNumber), kOkOnly, {}, textNumber}); });
+    m_link.host.Life().WhileAlive([&] { m_link.host.Ui().Show({LoadResString(textNumber), kOkOnly, {}, textNumber}); });
 }
 
 } // namespace schedules

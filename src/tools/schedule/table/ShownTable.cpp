@@ -2,14 +2,14 @@
 
 #include "common/Error.h"
 #include "controls/grid/SpreadView.h"
-#include "tools/schedule/ViewLink.h"
+#include "tools/HostLink.h"
 
 #include <utility>
 
 namespace schedules {
 
-ShownTable::ShownTable(UserInterface& userInterface, SpreadView& grid)
-    : m_engine(userInterface), m_grid(grid), m_sheet(new Sheet(this)), m_shown(m_sheet)
+ShownTable::ShownTable(HostLink& host, SpreadView& grid)
+    : m_host(host), m_engine(host.Ui()), m_grid(grid), m_sheet(new Sheet(this)), m_shown(m_sheet)
 {
     m_grid.SetSheet(m_sheet);
     m_engine.SetSched(m_sheet);
@@ -93,9 +93,7 @@ bool ShownTable::LoadTags(const QString& xml, bool selectAll)
 bool ShownTable::Load(const std::function<bool()>& fill)
 {
     ShowSheet(m_sheet);
-    bool loaded = false;
-    RequireOutlived(*this, [&] { loaded = fill(); }); // a load that fails shows a message
-    return loaded;
+    return m_host.Life().WhileAlive(fill); // a load that fails shows a message
 }
 
 void ShownTable::CleanUp()

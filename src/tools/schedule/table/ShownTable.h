@@ -10,6 +10,7 @@
 
 namespace schedules {
 
+class HostLink;
 class SpreadView;
 
 /// The table that the grid shows: its engine and its sheet, which way it lies, and what of it does not scroll.
@@ -21,7 +22,7 @@ class ShownTable : public QObject
 
 public:
     /// Both must outlive the table.
-    ShownTable(UserInterface& userInterface, SpreadView& grid);
+    ShownTable(HostLink& host, SpreadView& grid);
     ~ShownTable() override;
 
     CSchedule& Engine() { return m_engine; }
@@ -58,7 +59,7 @@ public:
     void Turn();
 
     /// Load and lay out a table. False when it cannot be loaded, which the engine has told the user. They throw
-    /// `ViewGone` when the view has been deleted meanwhile.
+    /// `ToolGone` when the view has been deleted meanwhile.
     bool LoadSchedule(const QString& xml);
     bool LoadTags(const QString& xml, bool selectAll);
 
@@ -88,6 +89,7 @@ private:
     void Freeze(int rows, int columns);
     void ShowSheet(Sheet* sheet);
 
+    HostLink& m_host;
     CSchedule m_engine;
     SpreadView& m_grid;
     Sheet* m_sheet;

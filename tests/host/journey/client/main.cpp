@@ -2,8 +2,8 @@
 // for each a line on standard output once it has been done.
 
 #include "../OpenWindow.h"
-#include "host/HostRouter.h"
-#include "host/ScheduleTool.h"
+#include "host/tools/HostRouter.h"
+#include "host/tools/HostedSchedule.h"
 #include "host/window/ConflictDialog.h"
 
 #include <QApplication>
