@@ -18,7 +18,8 @@ void SetFont(QTextCharFormat& format, const Look& look, const Tables& tables)
 {
     const Font font = tables.fonts.value(look.font);
     // Symbols were made characters, which any font may have.
-    if (!font.family.isEmpty() && tables.CodePageOf(look.font) != kSymbolCodePage)
+    const bool hasSymbols = font.Symbols() != SymbolFont::None || tables.CodePageOf(look.font) == kSymbolCodePage;
+    if (!font.family.isEmpty() && !hasSymbols)
         format.setFontFamilies({font.family});
     if (look.halfPoints > 0)
         format.setFontPointSize(look.halfPoints / 2.0);

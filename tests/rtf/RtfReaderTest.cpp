@@ -190,7 +190,9 @@ TEST(RichText, FontNamesAreInTheirOwnCodePage)
 
 TEST(RichText, SymbolsOfFontsBecomeCharacters)
 {
-    EXPECT_EQ(Shown(R"({\fonttbl{\f1\fcharset2 Wingdings;}}\f1\'a7\u-3913?\u61607?)"), "\u25AA\u2022\u25AA");
+    EXPECT_EQ(Shown(R"({\fonttbl{\f1\fcharset2 Wingdings;}}\f1\'a7\u61607?)"), "\u25AA\u25AA");
+    EXPECT_EQ(Shown(R"({\fonttbl{\f1\fcharset2 Other;}}\f1\'a7\u-3913?\u61607?)"), "\u25AA\u2022\u25AA");
+    EXPECT_EQ(Shown(R"(\u-3913?\u61607?)"), "\u2022\u25AA");
 }
 
 TEST(RichText, AFieldShowsItsResult)
