@@ -1,5 +1,6 @@
 #include "rtf/Formats.h"
 
+#include "common/Luminance.h"
 #include "rtf/Group.h"
 #include "rtf/Tables.h"
 
@@ -51,7 +52,8 @@ void SetShape(QTextCharFormat& format, const Look& look)
 
 QColor ReadableOn(const QColor& background)
 {
-    return qGray(background.rgb()) < 128 ? Qt::white : Qt::black;
+    const double luminance = Luminance(background.redF(), background.greenF(), background.blueF());
+    return IsDark(luminance) ? Qt::white : Qt::black;
 }
 
 void SetColors(QTextCharFormat& format, const Look& look, const Tables& tables)

@@ -1,8 +1,9 @@
 #include "spread/FileLook.h"
 
+#include "common/Luminance.h"
+
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace schedules {
 
@@ -27,12 +28,6 @@ std::string_view Trimmed(std::string_view text)
 bool IsDigit(char character)
 {
     return character >= '0' && character <= '9';
-}
-
-double Linear(std::uint32_t channel)
-{
-    const double share = (channel & 0xFF) / 255.0;
-    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
 }
 
 } // namespace
@@ -70,8 +65,8 @@ std::uint32_t FixedColor(std::uint32_t number)
 
 bool NeedsWhiteText(std::uint32_t color)
 {
-    const double luminance = 0.2126 * Linear(color) + 0.7152 * Linear(color >> 8) + 0.0722 * Linear(color >> 16);
-    return (luminance + 0.05) * (luminance + 0.05) < 1.05 * 0.05;
+    const auto part = [](std::uint32_t byte) { return (byte & 0xFF) / 255.0; };
+    return IsDark(Luminance(part(color), part(color >> 8), part(color >> 16)));
 }
 
 } // namespace schedules

@@ -59,8 +59,8 @@ const Row kLooks[]{
     {"cf", R"({\colortbl;\red255;}a\cf1 b\cf0 c\cf9 d\cf-1 e)", "a[colour=#ff0000]b[/]cde"},
     {"cb", R"({\colortbl;\red255;\blue9;}\cf2\cb1 b\cb0 c)", "[colour=#000009 back=#ff0000]b[/][colour=#000009]c[/]"},
     {"chcbpat", R"({\colortbl;\red255;\blue9;}\cf2\chcbpat1 b)", "[colour=#000009 back=#ff0000]b[/]"},
-    {"highlight", R"({\colortbl;\red255\green255;\red0;}\highlight1 b\highlight2 c\highlight0 d)",
-     "[colour=#000000 back=#ffff00]b[/][colour=#ffffff back=#000000]c[/]d"},
+    {"highlight", R"({\colortbl;\red255;\red0;}\highlight1 b\highlight2 c\highlight0 d)",
+     "[colour=#000000 back=#ff0000]b[/][colour=#ffffff back=#000000]c[/]d"},
 };
 
 const Row kParagraphs[]{
