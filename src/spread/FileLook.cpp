@@ -2,14 +2,11 @@
 
 #include "common/Luminance.h"
 
-#include <algorithm>
 #include <array>
 
 namespace schedules {
 
 namespace {
-
-constexpr std::string_view kBlanks = " \t\r\n\f\v";
 
 /// As 0xRRGGBB, in the order of their numbers.
 constexpr std::array<std::uint32_t, 31> kSystemColors{
@@ -19,36 +16,7 @@ constexpr std::array<std::uint32_t, 31> kSystemColors{
 
 constexpr std::uint32_t kWhite = 0xFFFFFF;
 
-std::string_view Trimmed(std::string_view text)
-{
-    const std::size_t first = text.find_first_not_of(kBlanks);
-    return first == text.npos ? std::string_view() : text.substr(first, text.find_last_not_of(kBlanks) + 1 - first);
-}
-
-bool IsDigit(char character)
-{
-    return character >= '0' && character <= '9';
-}
-
 } // namespace
-
-bool ReadsAsNumber(std::string_view utf8)
-{
-    std::string_view digits = Trimmed(utf8);
-    if (digits.starts_with('+') || digits.starts_with('-'))
-        digits.remove_prefix(1);
-    const auto isPart = [](char character) { return IsDigit(character) || character == '.' || character == ','; };
-    return std::ranges::all_of(digits, isPart) && std::ranges::any_of(digits, IsDigit);
-}
-
-CellEdge EdgeOf(HorizontalAlignment alignment, CellStyle style, std::string_view utf8)
-{
-    if (style.type == CellType::CheckBox || alignment == HorizontalAlignment::Center)
-        return CellEdge::Center;
-    if (alignment == HorizontalAlignment::Data && (IsNumeric(style.dataType) || ReadsAsNumber(utf8)))
-        return CellEdge::Far;
-    return CellEdge::Near;
-}
 
 std::uint32_t RedAndBlueSwapped(std::uint32_t color)
 {
