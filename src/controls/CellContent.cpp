@@ -1,20 +1,9 @@
 #include "controls/CellContent.h"
 
-#include <algorithm>
+#include "common/Utf8.h"
+#include "spread/OneLine.h"
 
 namespace schedules {
-
-namespace {
-
-QString OnOneLine(QString text)
-{
-    const auto movesOn = [](QChar character) { return character < u' ' || character == QChar::LineSeparator; };
-    if (std::ranges::any_of(std::as_const(text), movesOn))
-        std::ranges::replace_if(text, movesOn, QChar(u' '));
-    return text;
-}
-
-} // namespace
 
 CellContent ContentOf(const Sheet& sheet, Cell cell)
 {
@@ -27,7 +16,7 @@ CellContent ContentOf(const Sheet& sheet, Cell cell)
     content.vAlign = sheet.VAlign(cell);
     content.bold = sheet.Bold(cell);
     content.wraps = sheet.Wraps(cell);
-    content.text = content.wraps ? sheet.Text(cell) : OnOneLine(sheet.Text(cell));
+    content.text = content.wraps ? FromUtf8(utf8) : OnOneLine(FromUtf8(utf8));
     return content;
 }
 

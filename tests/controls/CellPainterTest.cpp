@@ -125,7 +125,8 @@ TEST(CellPainter, BoldTextsAreWider)
 
 TEST(CellPainter, TextsThatFitTheMeasuredWidthAreNeverCutOffAtAnyResolution)
 {
-    for (const char* text : {"P-101A", "AVAVA To Ty office", "Umw\xC3\xA4lzpumpe", "12,345.50", "Насос подпитки", "W"})
+    for (const char* text : {"P-101A", "AVAVA To Ty office", "Flow\n(m3/h)", "a\xE2\x80\xA9\tb", "Umw\xC3\xA4lzpumpe",
+                             "12,345.50", "Насос подпитки", "W"})
     {
         for (const bool bold : {false, true}) {
             Sheet sheet;

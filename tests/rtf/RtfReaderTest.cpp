@@ -183,6 +183,11 @@ TEST(RichText, FontNamesEndBeforeTheirNotes)
               "[font=Arial]a[/][font=Times]b[/]");
 }
 
+TEST(RichText, FontNamesAreTheUnicodeOnesOfTwins)
+{
+    EXPECT_EQ(Shown(R"({\fonttbl{\f0{\upr{?}{\*\ud\u913 ?}};}}\f0 a)"), "[font=\u0391]a[/]");
+}
+
 TEST(RichText, FontNamesAreInTheirOwnCodePage)
 {
     EXPECT_EQ(Shown(R"({\fonttbl{\f0\fcharset128 \'82\'6c\'82\'72;}}\f0 a)"), "[font=\uFF2D\uFF33]a[/]");
