@@ -1,6 +1,17 @@
 #include "common/Blanks.h"
 
+#include <algorithm>
+
 namespace schedules {
+
+namespace {
+
+constexpr bool IsWhiteSpace(char16_t character)
+{
+    return character == u' ' || character == u'\t' || character == u'\n' || character == u'\r';
+}
+
+} // namespace
 
 QString TrimmedOfBlanks(const QString& text)
 {
@@ -12,6 +23,16 @@ QString TrimmedOfBlanks(const QString& text)
     while (start < end && text.at(start) == kBlank)
         ++start;
     return end - start == text.size() ? text : text.mid(start, end - start);
+}
+
+bool IsWhiteSpaceAlone(std::string_view utf8)
+{
+    return std::ranges::all_of(utf8, [](char byte) { return IsWhiteSpace(static_cast<unsigned char>(byte)); });
+}
+
+bool IsWhiteSpaceAlone(QStringView text)
+{
+    return std::ranges::all_of(text, [](QChar character) { return IsWhiteSpace(character.unicode()); });
 }
 
 } // namespace schedules

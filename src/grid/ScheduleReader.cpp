@@ -1,18 +1,11 @@
 #include "grid/ScheduleReader.h"
 
+#include "common/Blanks.h"
+
 #include <algorithm>
 #include <utility>
 
 namespace schedules {
-
-namespace {
-
-bool IsBlank(std::string_view text)
-{
-    return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
-}
-
-} // namespace
 
 void ScheduleReader::StartElement(const XmlStartTag& tag)
 {
@@ -98,7 +91,7 @@ void ScheduleReader::Text(std::string_view text)
     Open& element = m_open.back();
     if (element.isCell && !m_values[m_valueCount - 1].ended)
         m_values[m_valueCount - 1].text += text;
-    if (element.isRow && !element.inText && !IsBlank(text)) {
+    if (element.isRow && !element.inText && !IsWhiteSpaceAlone(text)) {
         element.inText = true;
         AddEmptyCell(element);
     }
@@ -119,7 +112,7 @@ void ScheduleReader::EndTextOf(Open& element)
         return;
     // White space alone is no text, and another one may follow it.
     Value& value = m_values[m_valueCount - 1];
-    if (!value.ended && IsBlank(value.text))
+    if (!value.ended && IsWhiteSpaceAlone(value.text))
         value.text.clear();
     else
         value.ended = true;

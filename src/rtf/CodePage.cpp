@@ -40,7 +40,8 @@ constexpr std::array kCodePages{kSymbolCodePage,
                                 1257,
                                 1258,
                                 1361,
-                                kMacCodePage};
+                                kMacCodePage,
+                                kUtf8CodePage};
 
 constexpr std::array<std::pair<int, int>, 18> kCharsets{{
     {0, kAnsiCodePage},
@@ -76,6 +77,8 @@ QByteArray EncodingOf(int codePage)
         return EncodingOf(kAnsiCodePage);
     case kMacCodePage:
         return "MACINTOSH";
+    case kUtf8CodePage:
+        return "UTF-8";
     default:
         return "CP" + QByteArray::number(codePage);
     }
@@ -87,12 +90,13 @@ struct Conversion
     bool incomplete = false;
 };
 
-Conversion Converted(iconv_t converter, const char* bytes, std::size_t size)
+Conversion Converted(iconv_t converter, QByteArrayView bytes)
 {
     if (converter == reinterpret_cast<iconv_t>(-1))
         return {};
     std::array<char16_t, 8> buffer;
-    char* input = const_cast<char*>(bytes);
+    char* input = const_cast<char*>(bytes.data());
+    auto size = static_cast<std::size_t>(bytes.size());
     auto* output = reinterpret_cast<char*>(buffer.data());
     std::size_t room = sizeof buffer;
     iconv(converter, nullptr, nullptr, nullptr, nullptr);
@@ -134,14 +138,14 @@ CodePage::~CodePage()
 void CodePage::FillUpperHalf()
 {
     for (int byte = 0x80; byte < 0x100; ++byte) {
-        const char bytes[]{static_cast<char>(byte)};
-        const Conversion character = Converted(m_converter, bytes, 1);
+        const char single = static_cast<char>(byte);
+        const Conversion character = Converted(m_converter, QByteArrayView(&single, 1));
         const char16_t alone = character.text.size() == 1 ? character.text.front().unicode() : u'\uFFFD';
         m_upperHalf[byte - 0x80] = character.incomplete ? kLead : alone;
     }
 }
 
-/// The two that stand in front of list items; fonts with the others are seldom there.
+/// The two that stand in front of list items. Fonts of symbols that have other names are seldom there.
 void CodePage::ReplaceSymbols()
 {
     m_upperHalf[0xB7 - 0x80] = u'\u2022';
@@ -158,10 +162,14 @@ QChar CodePage::Decoded(uchar byte) const
     return byte < 0x80 ? QChar(byte) : QChar(m_upperHalf[byte - 0x80]);
 }
 
-QString CodePage::Decoded(uchar lead, uchar trail) const
+bool CodePage::IsBeginning(QByteArrayView bytes) const
 {
-    const char bytes[]{static_cast<char>(lead), static_cast<char>(trail)};
-    return Converted(m_converter, bytes, 2).text;
+    return Converted(m_converter, bytes).incomplete;
+}
+
+QString CodePage::Decoded(QByteArrayView bytes) const
+{
+    return Converted(m_converter, bytes).text;
 }
 
 const CodePage& CodePages::At(int number)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArrayView>
 #include <QString>
 
 #include <array>
@@ -11,8 +12,9 @@ inline constexpr int kAnsiCodePage = 1252;
 /// Of fonts that have symbols where others have letters.
 inline constexpr int kSymbolCodePage = 42;
 inline constexpr int kMacCodePage = 10000;
+inline constexpr int kUtf8CodePage = 65001;
 
-/// Whether this reader decodes the code page: the Windows and DOS ones, those of East Asia, and the two above.
+/// Whether this reader decodes the code page: the Windows and DOS ones, those of East Asia, and those above.
 bool IsCodePage(int number);
 
 /// The code page of the fonts of a character set; 0 when the set leaves that to the document.
@@ -26,11 +28,14 @@ public:
     ~CodePage();
     Q_DISABLE_COPY_MOVE(CodePage)
 
-    /// Whether the byte is only the first half of a character.
+    /// Whether the byte is only the beginning of a character.
     bool IsLead(uchar byte) const;
     QChar Decoded(uchar byte) const;
-    /// Empty when the two bytes are no character.
-    QString Decoded(uchar lead, uchar trail) const;
+
+    /// Whether the bytes, a lead first, are only the beginning of a character.
+    bool IsBeginning(QByteArrayView bytes) const;
+    /// Empty when the bytes, a lead first, are no character.
+    QString Decoded(QByteArrayView bytes) const;
 
 private:
     void FillUpperHalf();

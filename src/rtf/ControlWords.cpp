@@ -82,6 +82,8 @@ struct Interpreter::Words
         Word{u"ltrpar", &I::SetDirection, Qt::LeftToRight},
         Word{u"mac", &I::SetCodePage, kMacCodePage},
         Word{u"nestcell", &I::PutCharacter, u'\t'},
+        Word{u"nestrow", &I::EndNestedRow},
+        Word{u"nesttableprops", &I::Enter, int(Destination::RowProperties)},
         Word{u"nonesttables", &I::SkipGroup},
         Word{u"nonshppict", &I::SkipGroup},
         Word{u"nosupersub", &I::Clear, kSuperscript | kSubscript},
@@ -138,6 +140,7 @@ struct Interpreter::Words
         Word{u"txe", &I::SkipGroup},
         Word{u"u", &I::PutUnicode},
         Word{u"uc", &I::SetFallbackSize},
+        Word{u"ud", &I::EnterUnicode},
         Word{u"ul", &I::Toggle, kUnderline},
         Word{u"uld", &I::Toggle, kUnderline},
         Word{u"uldash", &I::Toggle, kUnderline},
@@ -148,6 +151,7 @@ struct Interpreter::Words
         Word{u"ulth", &I::Toggle, kUnderline},
         Word{u"ulw", &I::Toggle, kUnderline},
         Word{u"ulwave", &I::Toggle, kUnderline},
+        Word{u"upr", &I::EnterTwins},
         Word{u"userprops", &I::SkipGroup},
         Word{u"v", &I::Toggle, kHidden},
         Word{u"xe", &I::SkipGroup},
@@ -160,9 +164,10 @@ struct Interpreter::Words
 
 bool Interpreter::Word::IsDestination() const
 {
-    constexpr std::array kDestinations{&Interpreter::Enter,       &Interpreter::EnterColorTable,
-                                       &Interpreter::EnterList,   &Interpreter::EnterBulletText,
-                                       &Interpreter::EnterMarker, &Interpreter::SkipGroup};
+    constexpr std::array kDestinations{&Interpreter::Enter,        &Interpreter::EnterColorTable,
+                                       &Interpreter::EnterList,    &Interpreter::EnterBulletText,
+                                       &Interpreter::EnterMarker,  &Interpreter::EnterTwins,
+                                       &Interpreter::EnterUnicode, &Interpreter::SkipGroup};
     return std::ranges::find(kDestinations, action) != kDestinations.end();
 }
 

@@ -1,5 +1,6 @@
 #include "rtf/Formats.h"
 
+#include "common/Luminance.h"
 #include "rtf/Group.h"
 #include "rtf/Tables.h"
 
@@ -18,7 +19,8 @@ void SetFont(QTextCharFormat& format, const Look& look, const Tables& tables)
 {
     const Font font = tables.fonts.value(look.font);
     // Symbols were made characters, which any font may have.
-    if (!font.family.isEmpty() && tables.CodePageOf(look.font) != kSymbolCodePage)
+    const bool hasSymbols = font.Symbols() != SymbolFont::None || tables.CodePageOf(look.font) == kSymbolCodePage;
+    if (!font.family.isEmpty() && !hasSymbols)
         format.setFontFamilies({font.family});
     if (look.halfPoints > 0)
         format.setFontPointSize(look.halfPoints / 2.0);
@@ -50,7 +52,8 @@ void SetShape(QTextCharFormat& format, const Look& look)
 
 QColor ReadableOn(const QColor& background)
 {
-    return qGray(background.rgb()) < 128 ? Qt::white : Qt::black;
+    const double luminance = Luminance(background.redF(), background.greenF(), background.blueF());
+    return IsDark(luminance) ? Qt::white : Qt::black;
 }
 
 void SetColors(QTextCharFormat& format, const Look& look, const Tables& tables)

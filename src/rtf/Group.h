@@ -61,8 +61,9 @@ enum class Destination
     Body,
     FontTable,
     ColorTable,
-    List,      ///< describes the bullet or number of a paragraph; its own text is none
-    BulletText ///< of a list
+    List,       ///< describes the bullet or number of a paragraph; its own text is none
+    BulletText, ///< of a list
+    RowProperties
 };
 
 struct Group
@@ -71,6 +72,7 @@ struct Group
     Paragraph paragraph;
     Destination destination = Destination::Body;
     int fallbackSize = 1; ///< characters behind a Unicode escape that repeat it
+    bool isTwin = false;  ///< says in a code page what comes in Unicode, too
 };
 
 /// The open groups. The bottom one is there without a brace. From a depth of `kMaxDepth` on, groups share the state of
@@ -87,6 +89,7 @@ public:
     void Close();
 
     Group& Top() { return m_groups.back(); }
+    const Group& Top() const { return m_groups.back(); }
     std::size_t Depth() const { return m_groups.size() - 1 + m_sharing; }
     bool IsShared() const { return m_sharing > 0; }
 

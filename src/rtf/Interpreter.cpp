@@ -2,6 +2,8 @@
 
 #include "rtf/DocumentBuilder.h"
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace schedules::rtf {
@@ -83,10 +85,27 @@ bool Interpreter::TakeFallback(Token& token)
 
 void Interpreter::TakeText(QStringView text)
 {
-    const bool isTrail =
-        m_lead != 0 && text.front() < u'\x100' && TakeTrail(static_cast<uchar>(text.front().unicode()));
+    const auto isTrail = [&] {
+        return !m_lead.isEmpty() && !text.isEmpty() && text.front() < u'\x100' &&
+               TakeTrail(static_cast<uchar>(text.front().unicode()));
+    };
+    while (isTrail())
+        text = text.sliced(1);
+    if (text.isEmpty())
+        return;
     EndLead();
-    Write(text.sliced(isTrail ? 1 : 0));
+    TakeCharacters(text);
+}
+
+void Interpreter::TakeCharacters(QStringView text)
+{
+    const SymbolFont font = CurrentSymbols();
+    if (font == SymbolFont::None)
+        return Write(text);
+    QString symbols;
+    for (const QChar character : text)
+        symbols += QChar::fromUcs4(Symbol(font, character.unicode()));
+    Write(symbols);
 }
 
 void Interpreter::TakeWord(const Token& token, bool starred)
@@ -117,30 +136,35 @@ void Interpreter::TakeSymbol(QChar symbol)
 
 void Interpreter::TakeByte(uchar byte)
 {
-    if (m_lead != 0 && TakeTrail(byte))
+    if (!m_lead.isEmpty() && TakeTrail(byte))
         return;
     EndLead();
+    if (CurrentSymbols() != SymbolFont::None)
+        return WriteCharacter(byte);
     const CodePage& codePage = CurrentCodePage();
     const QChar character = codePage.Decoded(byte);
     if (codePage.IsLead(byte))
-        m_lead = byte;
+        m_lead = QByteArray(1, static_cast<char>(byte));
     else if (character >= u' ' || character == u'\t')
         Write(QStringView(&character, 1));
 }
 
 bool Interpreter::TakeTrail(uchar trail)
 {
-    const QString character = CurrentCodePage().Decoded(m_lead, trail);
-    if (character.isEmpty())
+    const CodePage& codePage = CurrentCodePage();
+    const QByteArray bytes = m_lead + static_cast<char>(trail);
+    const QString text = codePage.Decoded(bytes);
+    if (text.isEmpty() && !codePage.IsBeginning(bytes))
         return false;
-    m_lead = 0;
-    Write(character);
+    m_lead = text.isEmpty() ? bytes : QByteArray();
+    for (const char32_t code : text.toUcs4())
+        WriteCharacter(code);
     return true;
 }
 
 void Interpreter::EndLead()
 {
-    if (std::exchange(m_lead, uchar(0)) != 0)
+    if (!std::exchange(m_lead, {}).isEmpty())
         Write(QStringView(&kReplacement, 1));
 }
 
@@ -154,6 +178,17 @@ const CodePage& Interpreter::CurrentCodePage()
 {
     const bool isName = m_groups.Top().destination == Destination::FontTable;
     return m_codePages.At(m_tables.CodePageOf(isName ? m_tableFont : TheLook().font));
+}
+
+SymbolFont Interpreter::CurrentSymbols() const
+{
+    const Group& group = m_groups.Top();
+    return group.destination == Destination::FontTable ? SymbolFont::None : m_tables.SymbolsOf(group.look.font);
+}
+
+bool Interpreter::IsBody() const
+{
+    return m_groups.Top().destination == Destination::Body && !m_groups.Top().isTwin;
 }
 
 void Interpreter::CloseGroup()
@@ -173,6 +208,8 @@ void Interpreter::Write(QStringView text)
     if (text.isEmpty())
         return;
     EndSurrogate();
+    if (m_groups.Top().isTwin)
+        return;
     switch (m_groups.Top().destination) {
     case Destination::Body:
         return WriteBody(text);
@@ -183,6 +220,7 @@ void Interpreter::Write(QStringView text)
     case Destination::BulletText:
         return WriteBullet(text);
     case Destination::List:
+    case Destination::RowProperties:
         return;
     }
 }
@@ -236,11 +274,12 @@ void Interpreter::EndColor()
         WriteColors(u";");
 }
 
-/// Where a paragraph begins or ends, the closing brace of a table is missing.
+/// Where a paragraph begins or ends, the closing brace of a table or a row is missing.
 void Interpreter::LeaveTable()
 {
+    constexpr std::array kTables{Destination::FontTable, Destination::ColorTable, Destination::RowProperties};
     Destination& destination = m_groups.Top().destination;
-    if (destination != Destination::FontTable && destination != Destination::ColorTable)
+    if (std::ranges::find(kTables, destination) == kTables.end())
         return;
     EndFontName();
     EndColor();

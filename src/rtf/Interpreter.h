@@ -56,9 +56,12 @@ private:
     bool TakeTrail(uchar trail);
 
     void CloseGroup();
+    void TakeCharacters(QStringView text);
     void EndLead();
     void EndSurrogate();
     const CodePage& CurrentCodePage();
+    SymbolFont CurrentSymbols() const;
+    bool IsBody() const;
 
     void Write(QStringView text);
     void WriteBody(QStringView text);
@@ -81,6 +84,7 @@ private:
     void ResetLook(const Argument& argument);
     void ResetParagraph(const Argument& argument);
     void EndParagraph(const Argument& argument);
+    void EndNestedRow(const Argument& argument);
     void SetAlignment(const Argument& argument);
     void SetDirection(const Argument& argument);
     void SetLength(const Argument& argument);
@@ -101,6 +105,8 @@ private:
     void EnterList(const Argument& argument);
     void EnterBulletText(const Argument& argument);
     void EnterMarker(const Argument& argument);
+    void EnterTwins(const Argument& argument);
+    void EnterUnicode(const Argument& argument);
     void SkipGroup(const Argument& argument);
 
     Look& TheLook() { return m_groups.Top().look; }
@@ -114,7 +120,7 @@ private:
     std::size_t m_skippedGroups = 0; ///< open ones, from the outermost that is skipped
     int m_fallback = 0;              ///< characters to be skipped
     bool m_starred = false;
-    uchar m_lead = 0; ///< first half of a character of two bytes
+    QByteArray m_lead; ///< the bytes of a character that has not ended
     char16_t m_highSurrogate = 0;
 
     int m_defaultFont = -1;

@@ -98,10 +98,21 @@ void Interpreter::EndParagraph(const Argument&)
 {
     LeaveTable();
     EndSurrogate();
-    if (m_groups.Top().destination != Destination::Body)
+    if (!IsBody())
         return;
     m_builder.EndParagraph(TheParagraph(), TheLook());
     m_isMarked = false;
+}
+
+/// It stands among the properties of its row, behind the cells.
+void Interpreter::EndNestedRow(const Argument& argument)
+{
+    Destination& destination = m_groups.Top().destination;
+    const Destination entered = destination;
+    if (entered == Destination::RowProperties)
+        destination = Destination::Body;
+    EndParagraph(argument);
+    destination = entered;
 }
 
 void Interpreter::SetAlignment(const Argument& argument)
@@ -169,10 +180,10 @@ void Interpreter::PutUnicode(const Argument& argument)
 
 void Interpreter::WriteCharacter(char32_t code)
 {
-    if (code >= kFirstSymbol && code <= kLastSymbol) {
-        const QChar symbol = m_codePages.At(kSymbolCodePage).Decoded(static_cast<uchar>(code - kSymbols));
-        return Write(QStringView(&symbol, 1));
-    }
+    const SymbolFont font = CurrentSymbols();
+    if (font == SymbolFont::None && code >= kFirstSymbol && code <= kLastSymbol)
+        code = m_codePages.At(kSymbolCodePage).Decoded(static_cast<uchar>(code - kSymbols)).unicode();
+    code = Symbol(font, code);
     if (code >= U' ' || code == U'\t')
         Write(QChar::fromUcs4(IsShown(code) ? code : char32_t(QChar::ReplacementCharacter)));
 }
@@ -252,6 +263,20 @@ void Interpreter::EnterBulletText(const Argument& argument)
 void Interpreter::EnterMarker(const Argument&)
 {
     m_isMarked = true;
+}
+
+/// All but the Unicode one is skipped.
+void Interpreter::EnterTwins(const Argument& argument)
+{
+    if (m_groups.IsShared())
+        return SkipGroup(argument);
+    if (m_groups.Depth() > kRootDepth)
+        m_groups.Top().isTwin = true;
+}
+
+void Interpreter::EnterUnicode(const Argument&)
+{
+    m_groups.Top().isTwin = false;
 }
 
 void Interpreter::SkipGroup(const Argument&)

@@ -7,6 +7,8 @@
 
 #include <QTextDocument>
 
+#include <algorithm>
+
 namespace schedules::rtf {
 
 namespace {
@@ -32,6 +34,14 @@ QStringView WithoutTrail(QStringView text)
     return size > 0 && text.at(size - 1) == u'}' ? text.first(size) : text;
 }
 
+/// A message that was read byte by byte, though it says that it is UTF-8.
+bool IsUndecoded(QStringView message)
+{
+    const auto isByte = [](QChar character) { return character < u'\x100'; };
+    return message.contains(u"\\ansicpg65001") && std::ranges::all_of(message, isByte) &&
+           message.toLatin1().isValidUtf8();
+}
+
 } // namespace
 
 bool IsRichText(QStringView message)
@@ -39,8 +49,10 @@ bool IsRichText(QStringView message)
     return message.contains(kMark);
 }
 
-void ReadRichText(QStringView message, QTextDocument& document, qreal dotsPerInch)
+void ReadRichText(QStringView given, QTextDocument& document, qreal dotsPerInch)
 {
+    const QString decoded = IsUndecoded(given) ? QString::fromUtf8(given.toLatin1()) : QString();
+    const QStringView message = decoded.isNull() ? given : decoded;
     document.clear();
     Tables tables;
     DocumentBuilder builder(document, tables, dotsPerInch);

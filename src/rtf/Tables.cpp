@@ -1,6 +1,7 @@
 #include "rtf/Tables.h"
 
 #include <algorithm>
+#include <array>
 
 namespace schedules::rtf {
 
@@ -22,13 +23,29 @@ std::vector<TabStop> TabStops::Of(int list) const
     return stops;
 }
 
+SymbolFont Font::Symbols() const
+{
+    constexpr std::array kOfNoLanguage{0, kAnsiCodePage, kSymbolCodePage, kMacCodePage};
+    const bool mayBe = std::ranges::find(kOfNoLanguage, charsetCodePage) != kOfNoLanguage.end();
+    return mayBe ? SymbolFontNamed(family) : SymbolFont::None;
+}
+
 int Tables::CodePageOf(int font) const
 {
     const auto found = fonts.constFind(font);
     if (found == fonts.constEnd())
         return codePage;
-    const int own = found->codePage != 0 ? found->codePage : found->charsetCodePage;
-    return own != 0 ? own : codePage;
+    if (found->codePage != 0)
+        return found->codePage;
+    // The character set of Western letters is what writers of UTF-8 give to any font.
+    const bool isUtf8 = codePage == kUtf8CodePage && found->charsetCodePage == kAnsiCodePage;
+    return found->charsetCodePage != 0 && !isUtf8 ? found->charsetCodePage : codePage;
+}
+
+SymbolFont Tables::SymbolsOf(int font) const
+{
+    const auto found = fonts.constFind(font);
+    return found != fonts.constEnd() ? found->Symbols() : SymbolFont::None;
 }
 
 int Tables::AddBullet(const QString& text)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "rtf/CodePage.h"
+#include "rtf/Symbols.h"
 
 #include <QColor>
 #include <QHash>
@@ -17,6 +18,9 @@ struct Font
     QString family;
     int charsetCodePage = 0; ///< 0: the document's
     int codePage = 0;        ///< if not 0, instead of that of the character set
+
+    /// Whose symbols it shows instead of letters: a name says nothing in a font for the letters of a language.
+    SymbolFont Symbols() const;
 };
 
 /// A tab stop, in twips from the margin of the page.
@@ -60,6 +64,7 @@ struct Tables
     /// The first, and those that are not there, are automatic.
     QColor Color(int number) const { return number == 0 ? QColor() : colors.value(number); }
     int CodePageOf(int font) const;
+    SymbolFont SymbolsOf(int font) const;
     int AddBullet(const QString& text);
 };
 

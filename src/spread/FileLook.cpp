@@ -1,14 +1,12 @@
 #include "spread/FileLook.h"
 
-#include <algorithm>
+#include "common/Luminance.h"
+
 #include <array>
-#include <cmath>
 
 namespace schedules {
 
 namespace {
-
-constexpr std::string_view kBlanks = " \t\r\n\f\v";
 
 /// As 0xRRGGBB, in the order of their numbers.
 constexpr std::array<std::uint32_t, 31> kSystemColors{
@@ -18,42 +16,7 @@ constexpr std::array<std::uint32_t, 31> kSystemColors{
 
 constexpr std::uint32_t kWhite = 0xFFFFFF;
 
-std::string_view Trimmed(std::string_view text)
-{
-    const std::size_t first = text.find_first_not_of(kBlanks);
-    return first == text.npos ? std::string_view() : text.substr(first, text.find_last_not_of(kBlanks) + 1 - first);
-}
-
-bool IsDigit(char character)
-{
-    return character >= '0' && character <= '9';
-}
-
-double Linear(std::uint32_t channel)
-{
-    const double share = (channel & 0xFF) / 255.0;
-    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-}
-
 } // namespace
-
-bool ReadsAsNumber(std::string_view utf8)
-{
-    std::string_view digits = Trimmed(utf8);
-    if (digits.starts_with('+') || digits.starts_with('-'))
-        digits.remove_prefix(1);
-    const auto isPart = [](char character) { return IsDigit(character) || character == '.' || character == ','; };
-    return std::ranges::all_of(digits, isPart) && std::ranges::any_of(digits, IsDigit);
-}
-
-CellEdge EdgeOf(HorizontalAlignment alignment, CellStyle style, std::string_view utf8)
-{
-    if (style.type == CellType::CheckBox || alignment == HorizontalAlignment::Center)
-        return CellEdge::Center;
-    if (alignment == HorizontalAlignment::Data && (IsNumeric(style.dataType) || ReadsAsNumber(utf8)))
-        return CellEdge::Far;
-    return CellEdge::Near;
-}
 
 std::uint32_t RedAndBlueSwapped(std::uint32_t color)
 {
@@ -70,8 +33,8 @@ std::uint32_t FixedColor(std::uint32_t number)
 
 bool NeedsWhiteText(std::uint32_t color)
 {
-    const double luminance = 0.2126 * Linear(color) + 0.7152 * Linear(color >> 8) + 0.0722 * Linear(color >> 16);
-    return (luminance + 0.05) * (luminance + 0.05) < 1.05 * 0.05;
+    const auto part = [](std::uint32_t byte) { return (byte & 0xFF) / 255.0; };
+    return IsDark(Luminance(part(color), part(color >> 8), part(color >> 16)));
 }
 
 } // namespace schedules

@@ -1,29 +1,10 @@
 #pragma once
 
-#include "spread/Sheet.h"
-
 #include <cstdint>
-#include <optional>
-#include <string_view>
 
-// How cells look in files, where there is no palette and no screen to ask.
+// The colours of cells in files, where there is no palette and no screen to ask.
 
 namespace schedules {
-
-/// Whether a text is digits with points or commas between and perhaps a sign, blanks around allowed.
-bool ReadsAsNumber(std::string_view utf8);
-
-/// Where in its cell a text stands, along the line.
-enum class CellEdge : std::uint8_t
-{
-    Near,
-    Center,
-    Far
-};
-
-/// Check boxes stand in the middle; aligned by their data, numbers stand at the far edge and other texts at the near
-/// one.
-CellEdge EdgeOf(HorizontalAlignment alignment, CellStyle style, std::string_view utf8);
 
 inline constexpr std::uint32_t kSystemColorFlag = 0x80000000;
 

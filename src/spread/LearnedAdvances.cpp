@@ -69,7 +69,7 @@ bool SharedByScripts(QChar::Script script)
 } // namespace
 
 LearnedAdvances::LearnedAdvances(const QFontMetricsF& metrics, char32_t letter)
-    : m_metrics(metrics), m_letter(letter), m_table(std::size_t{kTableSize} * kTableSize, kUnknown), m_memos(kMemos)
+    : m_metrics(metrics), m_letter(letter), m_memos(kMemos)
 {
 }
 
@@ -95,17 +95,17 @@ std::int64_t LearnedAdvances::Width(std::string_view utf8)
 
 std::int64_t LearnedAdvances::QuickWidth(const char*& at, const char* end, char32_t& before) const
 {
-    if (before >= kTableSize)
+    if (!m_pairs.Covers(before))
         return 0;
-    const int* row = m_table.data() + before * kTableSize;
+    const int* row = m_pairs.Row(before);
     const char* next = at;
     std::int64_t width = 0;
     for (; next != end; ++next) {
         const auto character = static_cast<unsigned char>(*next);
-        if (character >= kTableSize || row[character] <= kUnknown)
+        if (!m_pairs.Covers(character) || row[character] <= kUnknown)
             break;
         width += row[character];
-        row = m_table.data() + character * kTableSize;
+        row = m_pairs.Row(character);
     }
     if (next != at)
         before = static_cast<unsigned char>(next[-1]);
@@ -115,11 +115,9 @@ std::int64_t LearnedAdvances::QuickWidth(const char*& at, const char* end, char3
 
 int LearnedAdvances::Advance(char32_t before, char32_t character)
 {
-    if (before < kTableSize && character < kTableSize) {
-        int& known = m_table[before * kTableSize + character];
-        return known != kUnknown ? known : known = Learn(before, character);
-    }
-    return AdvanceBeyondTable(before, character);
+    if (!m_pairs.Covers(before) || !m_pairs.Covers(character))
+        return AdvanceBeyondTable(before, character);
+    return m_pairs.Of(before, character, [this](char32_t first, char32_t next) { return Learn(first, next); });
 }
 
 int LearnedAdvances::AdvanceBeyondTable(char32_t before, char32_t character)

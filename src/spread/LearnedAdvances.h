@@ -1,5 +1,7 @@
 #pragma once
 
+#include "spread/LearnedPairs.h"
+
 #include <QFontMetricsF>
 
 #include <cstdint>
@@ -29,7 +31,6 @@ public:
     std::int64_t QuickWidth(const char*& at, const char* end, char32_t& before) const;
 
 private:
-    static constexpr char32_t kTableSize = 128;
     static constexpr int kUnknown = -1'000'000'000;
 
     struct Memo
@@ -45,7 +46,7 @@ private:
 
     const QFontMetricsF& m_metrics;
     char32_t m_letter;
-    std::vector<int> m_table; ///< of the characters below `kTableSize`
+    LearnedPairs<int> m_pairs{kUnknown};
     std::unordered_map<std::uint64_t, int> m_others;
     std::vector<Memo> m_memos; ///< what was lately found in `m_others`, each at a place that its key gives
 };

@@ -1,5 +1,7 @@
 #include "spread/NumberReader.h"
 
+#include "common/Utf8.h"
+
 #include <QString>
 
 #include <algorithm>
@@ -70,6 +72,20 @@ std::string_view Trimmed(std::string_view text)
     return first == text.npos ? std::string_view() : text.substr(first, text.find_last_not_of(kBlanks) + 1 - first);
 }
 
+/// Only then is the text worth a conversion.
+bool MayHaveOtherSpaceAround(std::string_view trimmed)
+{
+    return !trimmed.empty() && !(IsAscii(trimmed.substr(0, 1)) && IsAscii(trimmed.substr(trimmed.size() - 1)));
+}
+
+bool IsNumberText(std::string_view digits)
+{
+    if (digits.starts_with('+') || digits.starts_with('-'))
+        digits.remove_prefix(1);
+    const auto isPart = [](char character) { return IsDigit(character) || IsDecimalMark(character); };
+    return std::ranges::all_of(digits, isPart) && std::ranges::any_of(digits, IsDigit);
+}
+
 bool IsDecimal(std::string_view mantissa)
 {
     const auto digits = std::ranges::count_if(mantissa, IsDigit);
@@ -97,6 +113,14 @@ double ValueOf(const std::string& number)
 }
 
 } // namespace
+
+bool ReadsAsNumber(std::string_view utf8)
+{
+    const std::string_view text = Trimmed(utf8);
+    if (MayHaveOtherSpaceAround(text))
+        return IsNumberText(FromUtf8(text).trimmed().toStdString());
+    return IsNumberText(text);
+}
 
 NumberReader::NumberReader(const QLocale& locale)
 {

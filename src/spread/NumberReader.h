@@ -8,6 +8,10 @@
 
 namespace schedules {
 
+/// Whether a text looks like a number wherever it is read: digits with points or commas between, and perhaps a sign.
+/// Spaces of any kind may stand around it.
+bool ReadsAsNumber(std::string_view utf8);
+
 enum class Exponents
 {
     Refused,

@@ -1,8 +1,8 @@
 #include "spread/PrintCodes.h"
 
-#include <QRegularExpression>
+#include "spread/OneLine.h"
 
-#include <algorithm>
+#include <QRegularExpression>
 
 namespace schedules {
 
@@ -38,10 +38,7 @@ QString WholeCharacters(const QString& text)
 /// What moves a line on would leave the line that it is printed in.
 QString Printed(QString text)
 {
-    text.replace(kTextSlash, u'/');
-    std::ranges::replace_if(
-        text, [](QChar character) { return character < u' ' || character == QChar::LineSeparator; }, QChar(u' '));
-    return text;
+    return OnOneLine(text.replace(kTextSlash, u'/'));
 }
 
 /// Puts the lines together, code by code.

@@ -1,6 +1,7 @@
 #include "spread/TextMeasure.h"
 
 #include "common/Utf8.h"
+#include "spread/OneLine.h"
 
 #include <QString>
 
@@ -64,7 +65,7 @@ TextMeasure::TextMeasure(const QFont& font)
 
 int TextMeasure::Exact(std::string_view utf8, bool bold) const
 {
-    const QString text = FromUtf8(utf8);
+    const QString text = OnOneLine(FromUtf8(utf8));
     double width = 0;
     for (qsizetype from = 0; from < text.size(); from += kMostAtOnce)
         width += FaceOf(bold).metrics.horizontalAdvance(text.mid(from, kMostAtOnce));

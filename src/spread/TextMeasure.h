@@ -15,6 +15,7 @@ namespace schedules {
 
 /// Widths of texts in a font, in twips, independent of any screen: the font is measured at a size where a pixel is
 /// a twip, without hinting.
+/// Texts are measured as `OnOneLine` shows them.
 ///
 /// Shaping every text of a table would take longer than everything else together. The width of a text is the advance
 /// of its first character plus, for each further one, what it adds after the one before it, so that kerning counts.
@@ -25,7 +26,7 @@ class TextMeasure
 public:
     explicit TextMeasure(const QFont& font);
 
-    /// What the font's own metrics say: the width rounded up.
+    /// What the font's own metrics say about the text on one line: the width rounded up.
     int Exact(std::string_view utf8, bool bold) const;
 
     /// The learned width, in 64ths of a twip; -1 for a text that only the font can measure.

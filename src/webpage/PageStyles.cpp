@@ -1,5 +1,7 @@
 #include "webpage/PageStyles.h"
 
+#include "spread/FileLook.h"
+
 #include <QString>
 
 #include <array>

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "spread/FileLook.h"
+#include "spread/CellEdge.h"
 #include "webpage/PaperColumns.h"
 
 #include <compare>
 #include <map>
+#include <optional>
 #include <string>
 
 namespace schedules {

@@ -1,7 +1,7 @@
 #include "workbook/CsvWriter.h"
 
 #include "common/BufferedOutput.h"
-#include "spread/FileLook.h"
+#include "spread/NumberReader.h"
 
 namespace schedules {
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "spread/CellEdge.h"
 #include "spread/FileLook.h"
 #include "spread/Sheet.h"
 #include "workbook/PlainNumber.h"

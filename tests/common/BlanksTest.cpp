@@ -41,3 +41,19 @@ TEST(TrimmedOfBlanks, OtherWhiteSpaceIsPartOfTheText)
         EXPECT_EQ(Trimmed((std::string(" ") + space + " ").c_str()), space);
     }
 }
+
+TEST(WhiteSpaceAlone, IsBlanksTabsAndLineEnds)
+{
+    for (const char* text : {"", " ", "\t", "\n", "\r", " \t\r\n "}) {
+        EXPECT_TRUE(IsWhiteSpaceAlone(text));
+        EXPECT_TRUE(IsWhiteSpaceAlone(QString::fromUtf8(text)));
+    }
+}
+
+TEST(WhiteSpaceAlone, IsNoOtherSpace)
+{
+    for (const char* text : {"-", " x ", "\v", "\f", "\u0085", "\u00A0", "\u2003", "\u2028", "\u3000", " \u00A0 "}) {
+        EXPECT_FALSE(IsWhiteSpaceAlone(text)) << text;
+        EXPECT_FALSE(IsWhiteSpaceAlone(QString::fromUtf8(text))) << text;
+    }
+}

@@ -6,27 +6,14 @@
 
 namespace schedules::testing {
 
-TEST(CellContent, DigitsWithPointsCommasAndASignAreANumber)
+TEST(CellContent, StandsWhereItsDataSay)
 {
-    for (const char* number : {"0", "12", "-12.5", "+3,25", "1,234.56", ".5", " 7 "})
-        EXPECT_TRUE(ReadsAsNumber(QString::fromLatin1(number))) << number;
-    for (const char* text : {"", "-", ".", "P-12", "12 m", "1e5", "--1", "1-2", "n/a"})
-        EXPECT_FALSE(ReadsAsNumber(QString::fromLatin1(text))) << text;
-}
-
-TEST(CellContent, ANumericTypeMakesANumberOfAnyText)
-{
-    CellContent content;
-    content.text = QStringLiteral("n/a");
-    EXPECT_FALSE(IsNumber(content));
-    for (const DataType type :
-         {DataType::Integer, DataType::Long, DataType::Single, DataType::Double, DataType::Currency, DataType::Number})
-    {
-        content.style.dataType = type;
-        EXPECT_TRUE(IsNumber(content));
-    }
-    content.style.dataType = DataType::CheckBox;
-    EXPECT_FALSE(IsNumber(content));
+    const auto sheet = DrawnSheet(QStringLiteral(" | a  | b   | c\n"
+                                                 "1| 12 | n/a | [x]"));
+    sheet->SetHAlign(Block(1, 1, 3, 1), HorizontalAlignment::Data);
+    EXPECT_EQ(ContentOf(*sheet, At(1, 1)).edge, CellEdge::Far);
+    EXPECT_EQ(ContentOf(*sheet, At(2, 1)).edge, CellEdge::Near);
+    EXPECT_EQ(ContentOf(*sheet, At(3, 1)).edge, CellEdge::Center);
 }
 
 TEST(CellContent, LineBreaksAreBlanksUnlessTheCellWraps)

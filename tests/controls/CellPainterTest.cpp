@@ -64,17 +64,14 @@ QRect InkOf(const QImage& image, const QColor& ground = Qt::white)
 
 } // namespace
 
-TEST(CellPainter, TextsStandAtTheNearEdgeNumbersAtTheFarOne)
+TEST(CellPainter, TextsStandAtTheirEdge)
 {
     CellContent content = Text(QStringLiteral("12.5"));
-    content.hAlign = HorizontalAlignment::Data;
+    content.edge = CellEdge::Far;
     EXPECT_GT(InkOf(Picture().Of(content)).left(), 150);
-    content.text = QStringLiteral("n/a");
+    content.edge = CellEdge::Near;
     EXPECT_LT(InkOf(Picture().Of(content)).left(), 10);
-    content.hAlign = HorizontalAlignment::Left;
-    content.text = QStringLiteral("12.5");
-    EXPECT_LT(InkOf(Picture().Of(content)).left(), 10);
-    content.hAlign = HorizontalAlignment::Center;
+    content.edge = CellEdge::Center;
     EXPECT_NEAR(InkOf(Picture().Of(content)).center().x(), 100, 2);
 }
 
@@ -82,9 +79,9 @@ TEST(CellPainter, RightToLeftExchangesTheEdges)
 {
     const Picture picture{.look = {.direction = Qt::RightToLeft}};
     CellContent content = Text(QStringLiteral("12.5"));
-    content.hAlign = HorizontalAlignment::Data;
+    content.edge = CellEdge::Far;
     EXPECT_LT(InkOf(picture.Of(content)).left(), 10);
-    content.hAlign = HorizontalAlignment::Left;
+    content.edge = CellEdge::Near;
     EXPECT_GT(InkOf(picture.Of(content)).left(), 150);
 }
 
@@ -92,8 +89,7 @@ TEST(CellPainter, TextsKeepThePaddingAtBothSides)
 {
     CellContent content = Text(QStringLiteral("MM"));
     EXPECT_GE(InkOf(Picture().Of(content)).left(), 5);
-    content.style.dataType = DataType::Number;
-    content.hAlign = HorizontalAlignment::Data;
+    content.edge = CellEdge::Far;
     EXPECT_LE(InkOf(Picture().Of(content)).right(), 195);
 }
 
@@ -129,7 +125,8 @@ TEST(CellPainter, BoldTextsAreWider)
 
 TEST(CellPainter, TextsThatFitTheMeasuredWidthAreNeverCutOffAtAnyResolution)
 {
-    for (const char* text : {"P-101A", "AVAVA To Ty office", "Umw\xC3\xA4lzpumpe", "12,345.50", "Насос подпитки", "W"})
+    for (const char* text : {"P-101A", "AVAVA To Ty office", "Flow\n(m3/h)", "a\xE2\x80\xA9\tb", "Umw\xC3\xA4lzpumpe",
+                             "12,345.50", "Насос подпитки", "W"})
     {
         for (const bool bold : {false, true}) {
             Sheet sheet;

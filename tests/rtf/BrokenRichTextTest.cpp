@@ -24,7 +24,7 @@ const QString kSample = QStringLiteral(
 {\colortbl ;\red255\green0\blue0;\red0\green0\blue255;}{\stylesheet{\s0 Normal;}}{\*\generator X;}{\info{\title T}}
 \uc1\pard\qc\b\fs24 Pumps\b0\par{\pntext\f2\'B7\tab}{\*\pn\pnlvlblt\pnf2{\pntxtb\'B7}}\fi-360\li720\tqr\tx2880 a\tab b
 \par\pard\cf1\highlight2 \u-10179?\u-8704?\uc2\u8364\'80x {\i\f1\'83\'7c\'83e}\line{\field{\*\fldinst X "u"}{\fldrslt r}}
-{\pict\pngblip\bin4 {{{{ 00ff}{\object{\*\objdata 00}}\emdash\~\_\-\{\}\\ \strike end\par}})");
+{\pict\pngblip\bin4 {{{{ 00ff}{\object{\*\objdata 00}}{\upr{a}{\*\ud b}}{\*\nesttableprops\nestrow}\f2 W\'a3\u-3997?\f0\emdash\~\_\-\{\}\\ \strike end\par}})");
 
 QString Mutated(QString text, std::mt19937& random)
 {
@@ -39,6 +39,9 @@ QString Mutated(QString text, std::mt19937& random)
                                    "\\*",         "\n",
                                    "\\plain",     "\\pard",
                                    "\\f1",        "\\ansicpg932",
+                                   "\\f2",        "\\ansicpg65001",
+                                   "{\\upr",      "{\\*\\ud",
+                                   "\\'e2\\'89",  "{\\*\\nesttableprops",
                                    "{\\pntxtb",   QString(QChar(0xD83D))};
     const auto below = [&](qsizetype count) { return std::uniform_int_distribution<qsizetype>(0, count - 1)(random); };
     for (qsizetype changes = 1 + below(6); changes > 0 && text.size() > 1; --changes) {
@@ -92,6 +95,11 @@ TEST(BrokenRichText, WithoutTheEndOfATableShowsWhatFollows)
     EXPECT_EQ(DrawnMessage(R"({\rtf1{\fonttbl{\f0 Arial\pard\f0 a)"), "[font=Arial]a[/]");
     EXPECT_EQ(DrawnMessage(R"({\rtf1{\colortbl;\red255\pard\cf1 a\par b)"),
               "[colour=#ff0000]a[/]\n[colour=#ff0000]b[/]");
+}
+
+TEST(BrokenRichText, WithoutTheEndOfARowShowsWhatFollows)
+{
+    EXPECT_EQ(DrawnMessage(R"({\rtf1 a\nestcell{\*\nesttableprops\trowd\nestrow\pard b)"), "a\u2192\nb");
 }
 
 TEST(BrokenRichText, WithoutTheBraceOfADestinationShowsItsText)

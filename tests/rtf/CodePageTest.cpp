@@ -38,6 +38,7 @@ constexpr Sample kSamples[]{
     {950, R"(\'a4\'a4)", "\u4E2D"},
     {10000, R"(\'8e\'a5)", "\u00E9\u2022"},
     {kSymbolCodePage, R"(\'b7\'a7\'e9)", "\u2022\u25AA\u00E9"},
+    {kUtf8CodePage, R"(\'c2\'b5\'e2\'89\'a4\'f0\'9f\'98\'80x)", "\u00B5\u2264\U0001F600x"},
 };
 
 constexpr std::pair<int, int> kCharsets[]{{0, 1252},   {1, 0},      {2, 42},     {77, 10000}, {128, 932},  {129, 949},
@@ -72,7 +73,8 @@ TEST(CodePages, AreThoseThatAreKnown)
 {
     for (const auto& [charset, codePage] : kCharsets)
         EXPECT_EQ(IsCodePage(codePage), codePage != 0) << codePage;
-    for (const int other : {-1, 1, 1200, 1249, 1259, 65001})
+    EXPECT_TRUE(IsCodePage(kUtf8CodePage));
+    for (const int other : {-1, 1, 1200, 1249, 1259, 65000, 65002})
         EXPECT_FALSE(IsCodePage(other)) << other;
 }
 
@@ -101,8 +103,20 @@ TEST(CodePage, KnowsTheFirstHalvesOfCharacters)
         EXPECT_EQ(japanese.IsLead(static_cast<uchar>(byte)), isLead) << byte;
         EXPECT_FALSE(CodePage(1252).IsLead(static_cast<uchar>(byte))) << byte;
     }
-    EXPECT_EQ(japanese.Decoded(0x83, 0x5C), QStringLiteral("\u30BD"));
-    EXPECT_EQ(japanese.Decoded(0x83, 0x20), QString());
+    EXPECT_EQ(japanese.Decoded("\x83\x5C"), QStringLiteral("\u30BD"));
+    EXPECT_EQ(japanese.Decoded("\x83\x20"), QString());
+    EXPECT_FALSE(japanese.IsBeginning("\x83\x20"));
+}
+
+TEST(CodePage, KnowsTheBeginningsOfCharactersOfMoreBytes)
+{
+    const CodePage utf8(kUtf8CodePage);
+    for (int byte = 0x80; byte <= 0xF4; ++byte)
+        EXPECT_EQ(utf8.IsLead(static_cast<uchar>(byte)), byte >= 0xC2) << byte;
+    EXPECT_TRUE(utf8.IsBeginning("\xE2\x89"));
+    EXPECT_FALSE(utf8.IsBeginning("\xE2\x28"));
+    EXPECT_FALSE(utf8.IsBeginning("\xE2\x89\xA4"));
+    EXPECT_EQ(utf8.Decoded("\xE2\x89\xA4"), QStringLiteral("\u2264"));
 }
 
 } // namespace schedules::rtf

@@ -59,8 +59,8 @@ const Row kLooks[]{
     {"cf", R"({\colortbl;\red255;}a\cf1 b\cf0 c\cf9 d\cf-1 e)", "a[colour=#ff0000]b[/]cde"},
     {"cb", R"({\colortbl;\red255;\blue9;}\cf2\cb1 b\cb0 c)", "[colour=#000009 back=#ff0000]b[/][colour=#000009]c[/]"},
     {"chcbpat", R"({\colortbl;\red255;\blue9;}\cf2\chcbpat1 b)", "[colour=#000009 back=#ff0000]b[/]"},
-    {"highlight", R"({\colortbl;\red255\green255;\red0;}\highlight1 b\highlight2 c\highlight0 d)",
-     "[colour=#000000 back=#ffff00]b[/][colour=#ffffff back=#000000]c[/]d"},
+    {"highlight", R"({\colortbl;\red255;\red0;}\highlight1 b\highlight2 c\highlight0 d)",
+     "[colour=#000000 back=#ff0000]b[/][colour=#ffffff back=#000000]c[/]d"},
 };
 
 const Row kParagraphs[]{
@@ -69,6 +69,8 @@ const Row kParagraphs[]{
     {"page", R"(a\page b)", "a\nb"},
     {"row", R"(a\cell b\row c)", "a\u2192b\nc"},
     {"column", R"(a\column b)", "a\nb"},
+    {"nestrow", R"(a\nestcell b\nestrow c)", "a\u2192b\nc"},
+    {"nesttableprops", R"(a\nestcell{\*\nesttableprops\trowd b\nestrow c}d)", "a\u2192\nd"},
     {"ql", R"(\ql a)", "<left> a"},
     {"qr", R"(\qr a)", "<right> a"},
     {"qc", R"(\qc a\par b\par\ql c)", "<centre> a\n<centre> b\n<left> c"},
@@ -119,6 +121,8 @@ const Row kCharacters[]{
     {"ltrmark", R"(a\ltrmark b)", "a\u200Eb"},
     {"rtlmark", R"(a\rtlmark b)", "a\u200Fb"},
     {"u", R"(\u8364?\u-257 x)", "\u20AC\uFEFF"},
+    {"upr", R"(a{\upr{?\par\bullet}{\*\ud{\u8364 ?}b}}c)", "a\u20ACbc"},
+    {"ud", R"(a{\*\ud b}c)", "abc"},
     {"uc", R"(\uc2\u8364??a\uc0\u8364?)", "\u20ACa\u20AC?"},
     {"ansi", R"(\pc\ansi\'e9)", "\u00E9"},
     {"ansicpg", R"(\ansi\ansicpg1251\'e9)", "\u0439"},

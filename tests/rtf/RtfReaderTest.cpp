@@ -183,6 +183,11 @@ TEST(RichText, FontNamesEndBeforeTheirNotes)
               "[font=Arial]a[/][font=Times]b[/]");
 }
 
+TEST(RichText, FontNamesAreTheUnicodeOnesOfTwins)
+{
+    EXPECT_EQ(Shown(R"({\fonttbl{\f0{\upr{?}{\*\ud\u913 ?}};}}\f0 a)"), "[font=\u0391]a[/]");
+}
+
 TEST(RichText, FontNamesAreInTheirOwnCodePage)
 {
     EXPECT_EQ(Shown(R"({\fonttbl{\f0\fcharset128 \'82\'6c\'82\'72;}}\f0 a)"), "[font=\uFF2D\uFF33]a[/]");
@@ -190,7 +195,9 @@ TEST(RichText, FontNamesAreInTheirOwnCodePage)
 
 TEST(RichText, SymbolsOfFontsBecomeCharacters)
 {
-    EXPECT_EQ(Shown(R"({\fonttbl{\f1\fcharset2 Wingdings;}}\f1\'a7\u-3913?\u61607?)"), "\u25AA\u2022\u25AA");
+    EXPECT_EQ(Shown(R"({\fonttbl{\f1\fcharset2 Wingdings;}}\f1\'a7\u61607?)"), "\u25AA\u25AA");
+    EXPECT_EQ(Shown(R"({\fonttbl{\f1\fcharset2 Other;}}\f1\'a7\u-3913?\u61607?)"), "\u25AA\u2022\u25AA");
+    EXPECT_EQ(Shown(R"(\u-3913?\u61607?)"), "\u2022\u25AA");
 }
 
 TEST(RichText, AFieldShowsItsResult)

@@ -86,7 +86,52 @@ TEST(ByteEscapes, DropControlCharacters)
 
 TEST(ByteEscapes, UnknownCodePagesChangeNothing)
 {
-    EXPECT_EQ(Shown(R"(\ansicpg1251\ansicpg99999\'e9\ansicpg65001\'e9)"), "\u0439\u0439");
+    EXPECT_EQ(Shown(R"(\ansicpg1251\ansicpg99999\'e9\ansicpg1200\'e9)"), "\u0439\u0439");
+}
+
+TEST(Utf8Escapes, MakeCharactersOfUpToFourBytes)
+{
+    EXPECT_EQ(Shown(R"(\ansicpg65001 5 \'c2\'b5m \'e2\'89\'a4 x\'f0\'9f\'98\'80y)"), "5 \u00B5m \u2264 x\U0001F600y");
+    EXPECT_EQ(Shown("\\ansicpg65001 \\'e2\r\n\\'89\n\\'a4"), "\u2264");
+    EXPECT_EQ(Shown(R"(\ansicpg65001\uc3\u8804\'e2\'89\'a4x)"), "\u2264x");
+}
+
+TEST(Utf8Escapes, MayMeetBytesThatAreNotEscaped)
+{
+    EXPECT_EQ(Shown(QStringLiteral("\\ansicpg65001 \\'e2\u0089\u00A4x")), "\u2264x");
+    EXPECT_EQ(Shown(QStringLiteral("\\ansicpg65001 \\'e2\u0089\n\u00A4x")), "\u2264x");
+}
+
+TEST(Utf8Escapes, AreReplacedWhereTheyAreIllFormed)
+{
+    EXPECT_EQ(Shown(R"(\ansicpg65001 a\'e9b)"), "a\uFFFDb");
+    EXPECT_EQ(Shown(R"(\ansicpg65001 a\'e2\'89b\'e2\'89\par\'f0\'9f\'98)"), "a\uFFFDb\uFFFD\n\uFFFD");
+    EXPECT_EQ(Shown(R"(\ansicpg65001 a\'80\'ff\'c0b)"), "a\uFFFD\uFFFD\uFFFDb");
+    EXPECT_EQ(Shown(R"(\ansicpg65001 \'e2\'c2\'b5)"), "\uFFFD\u00B5");
+    EXPECT_EQ(Shown(R"(\ansicpg65001 \'e2{\'89}\'a4)"), "\uFFFD\uFFFD\uFFFD");
+}
+
+TEST(Utf8Escapes, ReplaceWhatStructuresDocuments)
+{
+    EXPECT_EQ(Shown(R"(\ansicpg65001 a\'e2\'80\'a9b\'ef\'bf\'bcc\'ef\'bf\'bfd)"), "a\uFFFDb\uFFFDc\uFFFDd");
+}
+
+TEST(Utf8Escapes, AreOfTheFontsWithWesternLetters)
+{
+    EXPECT_EQ(Shown(R"(\ansicpg65001{\fonttbl{\f0\fcharset0 A;}{\f1\fcharset204 A;}}\f0\'c2\'b5\f1\'cf)"),
+              "[font=A]\u00B5\u041F[/]");
+}
+
+TEST(Utf8Bytes, AreDecodedWhereEachIsACharacter)
+{
+    EXPECT_EQ(Shown(QStringLiteral("\\ansicpg65001 \u00C2\u00B5 \u00E2\u0089\u00A4")), "\u00B5 \u2264");
+    EXPECT_EQ(Shown(QStringLiteral("\\ansicpg1252 \u00C2\u00B5")), "\u00C2\u00B5");
+}
+
+TEST(Utf8Bytes, AreCharactersWhereTheMessageWasDecoded)
+{
+    EXPECT_EQ(Shown(QStringLiteral("\\ansicpg65001 \u00C2\u00B5 \u00E9")), "\u00C2\u00B5 \u00E9");
+    EXPECT_EQ(Shown(QStringLiteral("\\ansicpg65001 \u00C2\u00B5 \u2264")), "\u00C2\u00B5 \u2264");
 }
 
 } // namespace schedules::rtf

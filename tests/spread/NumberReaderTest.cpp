@@ -40,6 +40,22 @@ TEST(NumberReader, BlanksAroundDoNotMatter)
     EXPECT_EQ(Read("\u00A0-12\u2003"), "-12");
 }
 
+TEST(NumberText, IsDigitsWithPointsCommasAndASign)
+{
+    for (const char* text : {"0", "12", " 12.5 ", "-1,234.5", "+7", "007", ".5", "1.2.3"})
+        EXPECT_TRUE(ReadsAsNumber(text)) << text;
+    for (const char* text : {"", " ", "-", ".", "P-12", "12 m", "1e5", "--1", "1-2", "n/a", "½"})
+        EXPECT_FALSE(ReadsAsNumber(text)) << text;
+}
+
+TEST(NumberText, MayHaveSpacesOfAnyKindAround)
+{
+    for (const char* text : {"\u00A012", "12\u2009", "\u300012\u3000", " \u00A0-12.5 \t", "\r\n12\v\f"})
+        EXPECT_TRUE(ReadsAsNumber(text)) << text;
+    for (const char* text : {"\u00A0", "1\u00A0234", "12\u200B", "\uFEFF12", "\u00A0m"})
+        EXPECT_FALSE(ReadsAsNumber(text)) << text;
+}
+
 TEST(NumberReader, AnythingElseIsText)
 {
     for (const char* text :

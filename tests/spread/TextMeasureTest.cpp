@@ -151,6 +151,12 @@ int Measured(const QString& text, const QFont& font, bool bold)
     return TextMeasure(font).Exact(text.toUtf8().toStdString(), bold);
 }
 
+/// The advance of a text as it is painted, with a blank for a tab.
+int PaintedAdvance(QString text, const QFont& font, bool bold)
+{
+    return Advance(text.replace(u'\t', u' '), font, bold);
+}
+
 std::string NameOf(const ::testing::TestParamInfo<const char*>& tested)
 {
     const QString name = QString::fromLatin1(tested.param).remove(u' ');
@@ -163,8 +169,8 @@ TEST_P(TextMeasureTest, TheExactMeasureIsTheFontsAdvanceRoundedUp)
 {
     for (const char* word : kWords) {
         const QString text = QString::fromUtf8(word);
-        ASSERT_EQ(Measured(text, font, false), Advance(text, font, false)) << word;
-        ASSERT_EQ(Measured(text, font, true), Advance(text, font, true)) << word;
+        ASSERT_EQ(Measured(text, font, false), PaintedAdvance(text, font, false)) << word;
+        ASSERT_EQ(Measured(text, font, true), PaintedAdvance(text, font, true)) << word;
     }
 }
 
@@ -197,7 +203,7 @@ TEST_P(TextMeasureTest, TheWidestTextIsTheOneThatTheFontFindsWidest)
             const QString text = texts.Next();
             const bool bold = row % 4 == 0;
             widest.Consider(kept.emplace_back(text.toUtf8().toStdString()), bold, measure);
-            expected = std::max(expected, Advance(text, font, bold));
+            expected = std::max(expected, PaintedAdvance(text, font, bold));
         }
         ASSERT_EQ(widest.Width(measure), expected) << "column " << column;
     }
@@ -281,6 +287,19 @@ TEST(TextMeasure, WidthsAreTwips)
     EXPECT_EQ(tenPoints, 1666) << "ten times 0.833 of 200 twips";
     font.setPointSize(20);
     EXPECT_NEAR(TextMeasure(font).Exact("MMMMMMMMMM", false), 2 * tenPoints, 2);
+}
+
+TEST(TextMeasure, TextsAreMeasuredOnOneLine)
+{
+    TextMeasure measure(QGuiApplication::font());
+    const int width = measure.Exact("Flow (m3/h)", false);
+    for (const char* text : {"Flow\n(m3/h)", "Flow\t(m3/h)", "Flow\r(m3/h)", "Flow\u2028(m3/h)", "Flow\u2029(m3/h)"}) {
+        EXPECT_EQ(measure.Exact(text, false), width) << text;
+        EXPECT_EQ(measure.Learned(text, false), -1) << text;
+        WidestText widest;
+        widest.Consider(text, false, measure);
+        EXPECT_EQ(widest.Width(measure), width) << text;
+    }
 }
 
 TEST(WidestText, IsNothingWithoutTexts)

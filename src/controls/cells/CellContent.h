@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/cells/Place.h"
+#include "spread/CellEdge.h"
 
 #include <QString>
 
@@ -16,6 +17,7 @@ struct CellContent
     CellStyle style;
     std::optional<std::uint32_t> backColor;
     HorizontalAlignment hAlign = HorizontalAlignment::Left;
+    CellEdge edge = CellEdge::Near;
     VerticalAlignment vAlign = VerticalAlignment::Top;
     bool bold = false;
     bool wraps = false;
@@ -26,10 +28,10 @@ struct CellContent
 
 CellContent ContentOf(const Sheet& sheet, Cell cell);
 
-/// Whether a text is a plain number: digits, with points or commas between, and perhaps a sign.
-bool ReadsAsNumber(QStringView text);
-
-/// Whether `HorizontalAlignment::Data` puts the content at the far edge.
-bool IsNumber(const CellContent& content);
+/// Whether the content stands at the far edge.
+inline bool IsNumber(const CellContent& content)
+{
+    return content.edge == CellEdge::Far;
+}
 
 } // namespace schedules

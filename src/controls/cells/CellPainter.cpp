@@ -145,7 +145,7 @@ bool CellPainter::PaintGlyphs(const CellContent& content, const QRect& room)
     const auto faceWidth = face.WidthOf(content.text);
     if (!faceWidth || *faceWidth * m_faces.Scale() > room.width() + kRounding)
         return false;
-    const double left = LeftOf(*faceWidth * m_faces.Scale(), room, EdgeOf(content));
+    const double left = LeftOf(*faceWidth * m_faces.Scale(), room, content.edge);
     const QPointF start(left, BaselineOf(content, room));
     face.Append(m_glyphs[content.bold], content.text, start / m_faces.Scale());
     return true;
@@ -163,7 +163,7 @@ void CellPainter::PaintLine(const CellContent& content, const QRect& room)
         LayOutOnOneLine(layout);
     }
     const double top = BaselineOf(content, room) - layout.lineAt(0).ascent() * m_faces.Scale();
-    const double left = LeftOf(width() * narrowing, room, EdgeOf(content));
+    const double left = LeftOf(width() * narrowing, room, content.edge);
     DrawIn(room, layout, {left, top}, m_faces.Height(content.bold), narrowing);
 }
 
@@ -183,9 +183,8 @@ void CellPainter::PaintLines(const CellContent& content, const QRect& room)
     QString text = content.text;
     QTextLayout layout(text.replace(u'\n', QChar::LineSeparator), m_faces.Font(content.bold));
     QTextOption option = PlainTextOption(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    const Edge edge = EdgeOf(content);
-    option.setAlignment(edge == Edge::Middle ? Qt::AlignHCenter
-                                             : Qt::AlignAbsolute | (NearIsLeft(edge) ? Qt::AlignLeft : Qt::AlignRight));
+    const auto side = Qt::AlignAbsolute | (NearIsLeft(content.edge) ? Qt::AlignLeft : Qt::AlignRight);
+    option.setAlignment(content.edge == CellEdge::Center ? Qt::AlignHCenter : side);
     layout.setTextOption(option);
     const double height = LayOutInWidth(layout, (room.width() + kRounding) / m_faces.Scale()) * m_faces.Scale();
     DrawIn(room, layout, {static_cast<double>(room.left()), std::round(TopOf(content, room, height))}, height);
@@ -207,22 +206,15 @@ void CellPainter::DrawIn(const QRect& room, const QTextLayout& layout, QPointF t
     m_painter.restore();
 }
 
-CellPainter::Edge CellPainter::EdgeOf(const CellContent& content) const
+bool CellPainter::NearIsLeft(CellEdge edge) const
 {
-    if (content.hAlign == HorizontalAlignment::Center)
-        return Edge::Middle;
-    return content.hAlign == HorizontalAlignment::Data && IsNumber(content) ? Edge::Far : Edge::Near;
+    return (edge == CellEdge::Near) == (m_look.direction == Qt::LeftToRight);
 }
 
-bool CellPainter::NearIsLeft(Edge edge) const
-{
-    return (edge == Edge::Near) == (m_look.direction == Qt::LeftToRight);
-}
-
-double CellPainter::LeftOf(double width, const QRect& room, Edge edge) const
+double CellPainter::LeftOf(double width, const QRect& room, CellEdge edge) const
 {
     const double spare = room.width() - width;
-    if (edge == Edge::Middle)
+    if (edge == CellEdge::Center)
         return room.left() + spare / 2;
     return room.left() + (NearIsLeft(edge) ? 0 : spare);
 }

@@ -51,13 +51,6 @@ public:
     void Finish();
 
 private:
-    enum class Edge
-    {
-        Near,
-        Far,
-        Middle
-    };
-
     struct Ink
     {
         QRgb ground = 0;
@@ -76,9 +69,8 @@ private:
     void PaintPaperBox(const QRectF& box, bool ticked);
     void UseInkFor(const QColor& ground);
 
-    Edge EdgeOf(const CellContent& content) const;
-    bool NearIsLeft(Edge edge) const;
-    double LeftOf(double width, const QRect& room, Edge edge) const;
+    bool NearIsLeft(CellEdge edge) const;
+    double LeftOf(double width, const QRect& room, CellEdge edge) const;
     double BaselineOf(const CellContent& content, const QRect& room) const;
     double TopOf(const CellContent& content, const QRect& room, double height) const;
 

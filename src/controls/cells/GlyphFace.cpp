@@ -23,10 +23,7 @@ QGlyphRun LaidOut(const QString& text, const QFont& font)
 } // namespace
 
 GlyphFace::GlyphFace(const QFont& font)
-    : m_font(font),
-      m_rawFont(LaidOut(QStringLiteral("0"), font).rawFont()),
-      m_glyphs(kCount),
-      m_distances(kCount * kCount, kUnknown)
+    : m_font(font), m_rawFont(LaidOut(QStringLiteral("0"), font).rawFont()), m_glyphs(kCount)
 {
 }
 
@@ -66,10 +63,9 @@ const GlyphFace::Glyph& GlyphFace::GlyphOf(QChar character)
 
 float GlyphFace::DistanceOf(QChar character, QChar next)
 {
-    float& known = m_distances[PlaceOf(character) * kCount + PlaceOf(next)];
-    if (known == kUnknown)
-        known = LearnedDistance(character, next);
-    return known;
+    return m_distances.Of(character.unicode(), next.unicode(), [this](char32_t first, char32_t second) {
+        return LearnedDistance(static_cast<char16_t>(first), static_cast<char16_t>(second));
+    });
 }
 
 GlyphFace::Glyph GlyphFace::LearnedGlyph(QChar character)

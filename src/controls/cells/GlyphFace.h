@@ -1,5 +1,7 @@
 #pragma once
 
+#include "spread/LearnedPairs.h"
+
 #include <QFont>
 #include <QRawFont>
 #include <QStringView>
@@ -62,7 +64,7 @@ private:
     QFont m_font;
     QRawFont m_rawFont;
     std::vector<Glyph> m_glyphs;
-    std::vector<float> m_distances;
+    LearnedPairs<float> m_distances{kUnknown};
 };
 
 } // namespace schedules

@@ -1,6 +1,7 @@
 #include "controls/cells/SheetColors.h"
 
-#include <algorithm>
+#include "common/Luminance.h"
+
 #include <array>
 #include <cmath>
 
@@ -23,14 +24,9 @@ constexpr std::array kSystemColors{
     QPalette::Base,   QPalette::Link,   QPalette::Highlight,  QPalette::Mid,         QPalette::Highlight,
     QPalette::Window};
 
-double Linear(double channel)
+double LuminanceOf(const QColor& color)
 {
-    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-}
-
-double Luminance(const QColor& color)
-{
-    return 0.2126 * Linear(color.redF()) + 0.7152 * Linear(color.greenF()) + 0.0722 * Linear(color.blueF());
+    return Luminance(color.redF(), color.greenF(), color.blueF());
 }
 
 int Mixed(int bottom, int top, double share)
@@ -51,17 +47,14 @@ QColor ColorOf(std::uint32_t number, const QPalette& palette)
 
 double Contrast(const QColor& one, const QColor& other)
 {
-    const auto [darker, lighter] = std::minmax({Luminance(one), Luminance(other)});
-    return (lighter + 0.05) / (darker + 0.05);
+    return Contrast(LuminanceOf(one), LuminanceOf(other));
 }
 
 QColor LegibleOn(const QColor& background, const QColor& preferred, double contrast)
 {
     if (Contrast(background, preferred) >= contrast)
         return preferred;
-    const QColor black(Qt::black);
-    const QColor white(Qt::white);
-    return Contrast(background, black) >= Contrast(background, white) ? black : white;
+    return IsDark(LuminanceOf(background)) ? Qt::white : Qt::black;
 }
 
 QColor Blend(const QColor& bottom, const QColor& top, double share)

@@ -1,5 +1,7 @@
 #include "controls/lists/CheckListDelegate.h"
 
+#include "common/Luminance.h"
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QHelpEvent>
@@ -17,13 +19,13 @@ QStyle& StyleOf(const QStyleOptionViewItem& option)
 }
 
 constexpr double kPaleness = 0.4;
-constexpr int kDark = 128; ///< of a lightness up to 255
 constexpr int kFrameAlpha = 120;
 
 /// On a dark ground the style's own frame of a mark is darker still: an empty mark would not be seen.
 void FrameMark(QPainter& painter, const QRect& mark, const QPalette& palette)
 {
-    if (palette.color(QPalette::Base).lightness() >= kDark)
+    const QColor ground = palette.color(QPalette::Base);
+    if (!IsDark(Luminance(ground.redF(), ground.greenF(), ground.blueF())))
         return;
     QColor frame = palette.color(QPalette::Text);
     frame.setAlpha(kFrameAlpha);
