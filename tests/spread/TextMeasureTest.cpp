@@ -151,10 +151,10 @@ int Measured(const QString& text, const QFont& font, bool bold)
     return TextMeasure(font).Exact(text.toUtf8().toStdString(), bold);
 }
 
-/// The advance of a text as it is painted, with a blank for a tab.
+/// The advance of a text as it is painted, with a blank for a tab or a line end.
 int PaintedAdvance(QString text, const QFont& font, bool bold)
 {
-    return Advance(text.replace(u'\t', u' '), font, bold);
+    return Advance(text.replace(u'\t', u' ').replace(u'\n', u' '), font, bold);
 }
 
 std::string NameOf(const ::testing::TestParamInfo<const char*>& tested)

@@ -249,4 +249,17 @@ TEST_F(CellEditingTest, TabFindsTheNextCellOfALargeTable)
     EXPECT_EQ(Edit(), "3,1: spare") << "another table has other cells";
 }
 
+TEST_F(CellEditingTest, TabKnowsTheTableThatIsShownNow)
+{
+    ShowSchedule();
+    ClickCell(1, 1);
+    Key(Qt::Key_Tab);
+    ASSERT_EQ(Edit(), "3,1: spare");
+    Activate(QStringLiteral("<TABLE><TR><TH/><TH>A</TH></TR><TR><TH>1</TH><TD AllowEdit='-1'>a1</TD></TR>"
+                            "<TR><TH>2</TH><TD>a2</TD></TR><TR><TH>3</TH><TD AllowEdit='-1'>a3</TD></TR></TABLE>"));
+    ClickCell(1, 1);
+    Key(Qt::Key_Tab);
+    EXPECT_EQ(Edit(), "1,3: a3");
+}
+
 } // namespace schedules

@@ -220,4 +220,44 @@ TEST_F(CellEditingTest, ACellThatStoodInAnEditedOneIsGone)
     EXPECT_EQ(Edit(), "idle");
 }
 
+namespace {
+
+/// A table of so many columns and rows that none of its ends is seen from the other.
+QString LargeTable()
+{
+    const QString header = QStringLiteral("<TR><TH/>") + QStringLiteral("<TH>wide header</TH>").repeated(60);
+    const QString row = QStringLiteral("<TR><TH>row</TH>") + QStringLiteral("<TD>x</TD>").repeated(60);
+    return QStringLiteral("<TABLE>") + header + QStringLiteral("</TR>") +
+           (row + QStringLiteral("</TR>")).repeated(100) + QStringLiteral("</TABLE>");
+}
+
+} // namespace
+
+TEST_F(CellEditingTest, AnotherDocumentIsShownFromItsFirstColumn)
+{
+    Show(kScheduleView, LargeTable());
+    Spread()->EnsureVisible({Column(60), Row(100)});
+    ASSERT_TRUE(Spread()->SeenRect({Column(1), Row(1)}).isEmpty());
+    Activate(LargeTable());
+    EXPECT_FALSE(Spread()->SeenRect({Column(1), Row(1)}).isEmpty());
+}
+
+TEST_F(CellEditingTest, TransposeScrollsToTheActiveCellBothWays)
+{
+    Show(kScheduleView, LargeTable());
+    TheSheet()->SetActiveCell({Column(55), Row(3)});
+    Click("btnTranspose");
+    EXPECT_EQ(Active(), "3,55");
+    EXPECT_FALSE(Spread()->SeenRect({Column(3), Row(55)}).isEmpty());
+    TheSheet()->SetActiveCell({Column(90), Row(2)});
+    Spread()->EnsureVisible({Column(1), Row(1)});
+    Click("btnTranspose");
+    EXPECT_EQ(Active(), "2,90");
+    EXPECT_FALSE(Spread()->SeenRect({Column(2), Row(90)}).isEmpty());
+    TheSheet()->SetActiveCell({Column(2), Row(95)});
+    Click("btnTranspose");
+    EXPECT_EQ(Active(), "95,2");
+    EXPECT_FALSE(Spread()->SeenRect({Column(95), Row(2)}).isEmpty());
+}
+
 } // namespace schedules

@@ -216,4 +216,16 @@ TEST_F(WorkflowTest, AHostCannotTakeTheKeysOfTheViewsTools)
     EXPECT_TRUE(Tool("btnSaveTag")->isEnabled());
 }
 
+TEST_F(WorkflowTest, WhenTheHostCannotBeToldToUnloadClosingAsksAgain)
+{
+    Show(kScheduleView, kEditable);
+    host.failing = {QStringLiteral("UnloadSchedule")};
+    EXPECT_FALSE(view.close());
+    EXPECT_EQ(user.boxes.size(), 1u) << "the failure is shown";
+    EXPECT_FALSE(view.close());
+    EXPECT_EQ(host.Names(), (QStringList{"UnloadSchedule", "UnloadSchedule"}));
+    host.failing.clear();
+    EXPECT_TRUE(view.close());
+}
+
 } // namespace schedules

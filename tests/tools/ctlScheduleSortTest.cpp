@@ -189,4 +189,54 @@ TEST_F(SortTest, TheHeadersMenuNamesTheNextOrder)
     EXPECT_EQ(Entries(1, 0), QStringList{"Document Order"});
 }
 
+TEST_F(SortTest, CleaningUpEndsIt)
+{
+    ShowRows();
+    SortBy(1);
+    view.CleanUP();
+    Activate(kRows);
+    EXPECT_FALSE(TheSheet()->Rows().Ordered());
+    EXPECT_EQ(Entries(1, 0), QStringList{"Sort Ascending"});
+}
+
+TEST_F(SortTest, AMarkInTheHeaderComesAndGoes)
+{
+    ShowRows();
+    const auto header = [this] {
+        const QRect cell = Spread()->CellRect({Column(1), Row(0)});
+        return Spread()->viewport()->grab(cell).toImage();
+    };
+    ClickCell(1, 0);
+    const QImage plain = header();
+    view.DoColSort();
+    const QImage ascending = header();
+    EXPECT_NE(ascending, plain);
+    view.DoColSort();
+    EXPECT_NE(header(), ascending);
+    EXPECT_NE(header(), plain);
+    view.DoColSort();
+    EXPECT_EQ(header(), plain);
+    view.DoColSort();
+    view.IToolUI_Activate();
+    ClickCell(1, 0);
+    EXPECT_EQ(header(), plain);
+}
+
+TEST_F(SortTest, InATransposedSelectorTheHeadingsAreColumnsAndHoldNoRows)
+{
+    const QString tags =
+        QStringLiteral("<TABLE><TR><TH/><TH>Tag</TH><TH>Select</TH></TR>"
+                       "<TR><TH>1</TH><TD>P-3</TD><TD dataType='CHECKBOX' visible='-1'/></TR>"
+                       "<TR><TH fontBold='-1'>2</TH><TD UserDefined='-1'>P-1</TD>"
+                       "<TD dataType='CHECKBOX' visible='-1'/></TR>"
+                       "<TR><TH>3</TH><TD>P-2</TD><TD dataType='CHECKBOX' visible='-1'/></TR></TABLE>");
+    Show(kSelectorView, tags);
+    Click("btnTranspose");
+    ASSERT_EQ(view.SchedOrientation(), 0);
+    ASSERT_TRUE(view.TransposeData());
+    // Three tags side by side, of which the second one's line is bold; two rows, one for the names, one for the ticks.
+    SortBy(1);
+    EXPECT_EQ(Rows(), "21") << "a heading among the rows would keep them apart";
+}
+
 } // namespace schedules

@@ -1,5 +1,6 @@
 #include "tools/schedule/edits/CellEditing.h"
 
+#include "common/Blanks.h"
 #include "common/Error.h"
 #include "controls/cells/CellContent.h"
 #include "controls/grid/CellEditBox.h"
@@ -12,7 +13,6 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 
-#include <algorithm>
 #include <utility>
 
 namespace schedules {
@@ -26,17 +26,15 @@ bool IsDataCell(Cell cell)
 
 Qt::Alignment AlignmentOf(const CellContent& content)
 {
-    if (content.hAlign == HorizontalAlignment::Center)
+    if (content.edge == CellEdge::Center)
         return Qt::AlignHCenter;
-    return content.hAlign == HorizontalAlignment::Data && IsNumber(content) ? Qt::AlignRight : Qt::AlignLeft;
+    return content.edge == CellEdge::Far ? Qt::AlignRight : Qt::AlignLeft;
 }
 
 /// A table knows no text of white space alone.
 QString AsInTable(const QString& text)
 {
-    static const QString kWhiteSpace = QStringLiteral(" \t\r\n");
-    return std::ranges::all_of(text, [](QChar character) { return kWhiteSpace.contains(character); }) ? QString()
-                                                                                                      : text;
+    return IsWhiteSpaceAlone(text) ? QString() : text;
 }
 
 void Press(QWidget& widget, int key, const QString& text = {})
