@@ -45,6 +45,17 @@ void Trace(const QString& line)
     qCDebug(kTrace).noquote() << line;
 }
 
+void TraceIgnoredError() noexcept
+{
+    if (!kTrace().isDebugEnabled())
+        return;
+    try {
+        Trace(QStringLiteral("Ignored: ") + CurrentError().Description());
+    } catch (...) {
+        return;
+    }
+}
+
 void ReportMessage(UserInterface& userInterface, const MessageBox& box) noexcept
 {
     IgnoringErrors([&] {

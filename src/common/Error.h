@@ -85,6 +85,9 @@ void ReportError(UserInterface& userInterface, const Error& error, const QString
 /// is no memory left to tell of it.
 void ReportCurrentError(UserInterface& userInterface, QualifiedName source) noexcept;
 
+/// Writes a trace line of the exception that is being handled: only to be called inside a `catch`. Never throws.
+void TraceIgnoredError() noexcept;
+
 /// Runs `body` and returns what it returns. Whatever it throws is told to the shared reporter, and the result is then
 /// `fallback`.
 template <class Result, std::invocable Body>
@@ -104,14 +107,27 @@ void Reported(UserInterface& userInterface, QualifiedName source, Body&& body)
     Reported(userInterface, source, false, [&] { return std::invoke(body), true; });
 }
 
+/// Runs what may fail; returns what went wrong, an empty text when nothing did.
+template <std::invocable Body>
+QString FailureOf(Body&& body)
+{
+    try {
+        std::invoke(body);
+    } catch (...) {
+        return CurrentError().Description();
+    }
+    return {};
+}
+
 /// Runs a step whose failure must not stop what comes after it.
+/// It leaves a trace line.
 template <std::invocable Body>
 void IgnoringErrors(Body&& body) noexcept
 {
     try {
         std::invoke(body);
     } catch (...) {
-        return;
+        TraceIgnoredError();
     }
 }
 

@@ -58,8 +58,8 @@ enum class Entry
 /// How a schedule is printed into a file.
 struct PaperOptions
 {
-    bool smart = true; ///< fitted to pages; otherwise at full size
-    int pageSize = 0;  ///< a `QPageSize::PageSizeId`; 0 is A4
+    bool smart = true;           ///< fitted to pages; otherwise at full size
+    std::optional<int> pageSize; ///< a `QPageSize::PageSizeId`; A4 without one
 };
 
 /// The schedule view beside `IToolUI`: found with `qobject_cast` on what `IComponentFactory::CreateTool` has made.

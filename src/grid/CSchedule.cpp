@@ -5,6 +5,7 @@
 #include "common/modResource.h"
 
 #include <QPointer>
+#include <QScopeGuard>
 
 #include <algorithm>
 #include <array>
@@ -33,24 +34,6 @@ int MessageNumberOf(TableFault fault)
     return 0;
 }
 
-/// Shows the busy pointer for as long as it lives.
-class BusyPointer
-{
-public:
-    explicit BusyPointer(UserInterface& userInterface) : m_userInterface(userInterface)
-    {
-        m_userInterface.SetPointer(Pointer::Hourglass);
-    }
-    ~BusyPointer()
-    {
-        IgnoringErrors([this] { m_userInterface.SetPointer(Pointer::Default); });
-    }
-    Q_DISABLE_COPY_MOVE(BusyPointer)
-
-private:
-    UserInterface& m_userInterface;
-};
-
 constexpr CellRange WholeRow(Row row)
 {
     return {{kAllColumns, row}, {kAllColumns, row}};
@@ -72,6 +55,24 @@ std::vector<int> GroupHeadingsOf(const std::vector<RowAttributes>& rows)
 }
 
 } // namespace
+
+/// Shows the busy pointer for as long as it lives.
+class CSchedule::BusyPointer
+{
+public:
+    explicit BusyPointer(UserInterface& userInterface) : m_userInterface(userInterface)
+    {
+        m_userInterface.SetPointer(Pointer::Hourglass);
+    }
+    ~BusyPointer()
+    {
+        IgnoringErrors([this] { m_userInterface.SetPointer(Pointer::Default); });
+    }
+    Q_DISABLE_COPY_MOVE(BusyPointer)
+
+private:
+    UserInterface& m_userInterface;
+};
 
 CSchedule::CSchedule(UserInterface& userInterface) : m_userInterface(userInterface) {}
 
@@ -157,6 +158,12 @@ void CSchedule::ResetSheet()
 bool CSchedule::LoadXmlIntoSpreadSheet(const QString& xml)
 {
     return Reported(m_userInterface, kSource.In(__func__), false, [&] {
+        m_busyPointer = std::make_shared<BusyPointer>(m_userInterface);
+        // A message may be the end of the engine, and so of the pointer and of whom it was shown to.
+        const auto restore = qScopeGuard([this, busy = std::weak_ptr(m_busyPointer)] {
+            if (!busy.expired())
+                m_busyPointer.reset();
+        });
         const TableFault fault = TakeTable(xml);
         if (fault == TableFault::None)
             return true;
@@ -168,7 +175,6 @@ bool CSchedule::LoadXmlIntoSpreadSheet(const QString& xml)
 
 TableFault CSchedule::TakeTable(const QString& xml)
 {
-    const BusyPointer busy(m_userInterface);
     ParsedTable parsed = ParseScheduleTable(xml);
     if (parsed.fault == TableFault::None)
         PlaceTable(std::move(parsed.table));

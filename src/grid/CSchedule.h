@@ -10,6 +10,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace schedules {
@@ -183,7 +184,10 @@ private:
     /// `written` is how a text stands among the codes.
     QString HeaderWith(QString (*written)(QString text)) const;
 
+    class BusyPointer;
+
     UserInterface& m_userInterface;
+    std::shared_ptr<BusyPointer> m_busyPointer; ///< shown while a table is loaded
     Sheet* m_sched = nullptr;
     int m_schedOrientation = 0;
     bool m_transposeData = false;

@@ -20,32 +20,10 @@ std::optional<CellSpans> CellSpans::Of(const QByteArray& utf8)
     return locator ? std::optional(locator->Take()) : std::nullopt;
 }
 
-const CellSpans::Entry* CellSpans::EntryAt(Sheet::TablePlace place) const
-{
-    const auto found = std::ranges::lower_bound(m_entries, place, {}, &Entry::place);
-    return found != m_entries.end() && found->place == place ? &*found : nullptr;
-}
-
 std::optional<CellSpan> CellSpans::Find(Sheet::TablePlace place) const
 {
-    const Entry* entry = EntryAt(place);
-    return entry ? std::optional(entry->span) : std::nullopt;
-}
-
-bool CellSpans::AllowsEdit(Sheet::TablePlace place) const
-{
-    const Entry* entry = EntryAt(place);
-    return entry && entry->allowEdit;
-}
-
-std::set<Sheet::TablePlace> CellSpans::PlacesOf(const std::set<std::uint32_t>& starts) const
-{
-    std::set<Sheet::TablePlace> places;
-    for (const Entry& entry : m_entries) {
-        if (starts.contains(entry.span.start))
-            places.insert(entry.place);
-    }
-    return places;
+    const auto found = std::ranges::lower_bound(m_entries, place, {}, &Entry::place);
+    return found != m_entries.end() && found->place == place ? std::optional(found->span) : std::nullopt;
 }
 
 void CellLocator::StartElement(const XmlStartTag& tag)
@@ -54,9 +32,7 @@ void CellLocator::StartElement(const XmlStartTag& tag)
     const auto place = OpenCell();
     m_open.push_back(place ? m_spans.m_entries.size() : kNoCell);
     if (place)
-        m_spans.m_entries.push_back({*place,
-                                     {static_cast<std::uint32_t>(tag.start), 0},
-                                     m_attributes.Read(tag, CellKind::Data).style.allowEdit});
+        m_spans.m_entries.push_back({*place, {static_cast<std::uint32_t>(tag.start), 0}});
 }
 
 void CellLocator::EndElement(std::size_t end)

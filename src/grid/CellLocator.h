@@ -4,7 +4,6 @@
 #include "spread/Sheet.h"
 
 #include <cstdint>
-#include <set>
 #include <vector>
 
 namespace schedules {
@@ -28,11 +27,13 @@ public:
     /// Nothing for a place without an element: one that a comment or stray text takes, or beyond the table.
     std::optional<CellSpan> Find(Sheet::TablePlace place) const;
 
-    /// Whether there is such an element and it says that its cell may be edited.
-    bool AllowsEdit(Sheet::TablePlace place) const;
-
-    /// The places of the elements that begin there.
-    std::set<Sheet::TablePlace> PlacesOf(const std::set<std::uint32_t>& starts) const;
+    /// Calls `visit(place, span)` for each element, in the order of the table.
+    template <class Visit>
+    void ForEach(Visit&& visit) const
+    {
+        for (const Entry& entry : m_entries)
+            visit(entry.place, entry.span);
+    }
 
 private:
     friend class CellLocator;
@@ -41,15 +42,12 @@ private:
     {
         Sheet::TablePlace place;
         CellSpan span;
-        bool allowEdit = false;
     };
-
-    const Entry* EntryAt(Sheet::TablePlace place) const;
 
     std::vector<Entry> m_entries; ///< by place
 };
 
-/// Reads a schedule and notes where the elements of its cells are, and which of them may be edited.
+/// Reads a schedule and notes where the elements of its cells are.
 class CellLocator : public ScheduleReader
 {
 public:
@@ -62,7 +60,6 @@ public:
 
 private:
     CellSpans m_spans;
-    CellAttributesReader m_attributes;
     std::vector<std::size_t> m_open; ///< by open element the number of its entry, or `kNoCell`
 };
 

@@ -16,7 +16,7 @@ namespace {
 constexpr SourceName kSource("CTemplates");
 
 /// What an entry of the list says; of what it does not say, the entry before it holds.
-void Update(TemplateEntry& entry, const HostListEntry& listed)
+void Update(CatalogueEntry& entry, const HostListEntry& listed)
 {
     entry.name = listed.Attribute("name").value_or(entry.name);
     entry.filename = listed.Attribute("filename").value_or(entry.filename);
@@ -69,7 +69,7 @@ bool CTemplates::CreateObjects(const QString& templateList, const QString& categ
 
 void CTemplates::AddListed(const std::vector<HostListEntry>& listed)
 {
-    TemplateEntry entry;
+    CatalogueEntry entry;
     for (const HostListEntry& next : listed) {
         Update(entry, next);
         const QString category = next.Text("category");
@@ -77,7 +77,7 @@ void CTemplates::AddListed(const std::vector<HostListEntry>& listed)
     }
 }
 
-std::shared_ptr<CTemplate> CTemplates::AddTemplate(const TemplateEntry& entry,
+std::shared_ptr<CTemplate> CTemplates::AddTemplate(const CatalogueEntry& entry,
                                                    const std::shared_ptr<CCategory>& category, Inside)
 {
     return Reported(m_userInterface, kSource.In("Add"), std::shared_ptr<CTemplate>(), [&] {
@@ -92,7 +92,7 @@ std::shared_ptr<CTemplate> CTemplates::AddTemplate(const TemplateEntry& entry,
     });
 }
 
-std::shared_ptr<CTemplate> CTemplates::Made(const TemplateEntry& entry,
+std::shared_ptr<CTemplate> CTemplates::Made(const CatalogueEntry& entry,
                                             const std::shared_ptr<CCategory>& category) const
 {
     auto made = std::make_shared<CTemplate>(m_userInterface);

@@ -11,7 +11,7 @@ class HostListEntry;
 class Inside;
 
 /// What the host's list tells of a template beside its category.
-struct TemplateEntry
+struct CatalogueEntry
 {
     QString name;
     QString filename;
@@ -57,12 +57,12 @@ public:
 
     /// Reads a template's file and puts it behind the others, with the number of templates as its own. Nothing for a
     /// blank name, and for one that is there already.
-    std::shared_ptr<CTemplate> AddTemplate(const TemplateEntry& entry, const std::shared_ptr<CCategory>& category,
+    std::shared_ptr<CTemplate> AddTemplate(const CatalogueEntry& entry, const std::shared_ptr<CCategory>& category,
                                            Inside);
 
 private:
     void AddListed(const std::vector<HostListEntry>& listed);
-    std::shared_ptr<CTemplate> Made(const TemplateEntry& entry, const std::shared_ptr<CCategory>& category) const;
+    std::shared_ptr<CTemplate> Made(const CatalogueEntry& entry, const std::shared_ptr<CCategory>& category) const;
 
     UserInterface& m_userInterface;
     QString m_folder;

@@ -37,7 +37,7 @@ auto NamedMembers<Member>::AddNew(const QString& name) -> Pointer
 }
 
 template <class Member>
-void NamedMembers<Member>::Add(Pointer& member, const Place& before, const Place& after)
+void NamedMembers<Member>::Add(Pointer& member, const Neighbour& before, const Neighbour& after)
 {
     Reported(m_userInterface, m_source.In(__func__), [&] {
         if (!member)
@@ -50,7 +50,7 @@ void NamedMembers<Member>::Add(Pointer& member, const Place& before, const Place
 }
 
 template <class Member>
-std::optional<Position> NamedMembers<Member>::PlaceFor(const Place& before, const Place& after) const
+std::optional<Position> NamedMembers<Member>::PlaceFor(const Neighbour& before, const Neighbour& after) const
 {
     if (before)
         return m_members.PlaceOf(*before);

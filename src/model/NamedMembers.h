@@ -15,7 +15,7 @@ class NamedMembers
 {
 public:
     using Pointer = std::shared_ptr<Member>;
-    using Place = std::optional<MemberKey>;
+    using Neighbour = std::optional<MemberKey>;
 
     Q_DISABLE_COPY_MOVE(NamedMembers)
 
@@ -39,7 +39,7 @@ public:
     /// Adds a member that exists, at the end or directly before or after another; its number stays. Without a member,
     /// makes an empty one and tells it. Nothing is added when the name is taken or the other is not found; when both
     /// are given, `before` holds.
-    void Add(Pointer& member, const Place& before = {}, const Place& after = {});
+    void Add(Pointer& member, const Neighbour& before = {}, const Neighbour& after = {});
 
     /// Removes all; the numbers go on where they were.
     void Clear();
@@ -61,7 +61,7 @@ protected:
 
 private:
     Pointer Made() const { return std::make_shared<Member>(m_userInterface); }
-    std::optional<Position> PlaceFor(const Place& before, const Place& after) const;
+    std::optional<Position> PlaceFor(const Neighbour& before, const Neighbour& after) const;
 
     UserInterface& m_userInterface;
     SourceName m_source;

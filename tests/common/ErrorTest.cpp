@@ -129,6 +129,15 @@ TEST(IgnoringErrors, RunsTheBodyAndLetsNothingOut)
     EXPECT_EQ(steps, 2);
 }
 
+TEST(IgnoringErrors, LeavesATraceLineOfWhatItIgnored)
+{
+    const TraceLog trace;
+    IgnoringErrors([] { throw Error(5, QStringLiteral("lost")); });
+    IgnoringErrors([] { throw 5; });
+    IgnoringErrors([] {});
+    EXPECT_EQ(trace.lines, (QStringList{QStringLiteral("Ignored: lost"), QStringLiteral("Ignored: Unexpected error")}));
+}
+
 TEST(Trace, IsSilentUnlessAskedFor)
 {
     EXPECT_FALSE(kTrace().isDebugEnabled());

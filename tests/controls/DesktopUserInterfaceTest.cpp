@@ -152,6 +152,50 @@ TEST(DesktopUserInterface, TheHourglassNeverStacksAndLeavesOthersAlone)
     QApplication::restoreOverrideCursor();
 }
 
+TEST(DesktopUserInterface, DialogsHaveTheOrdinaryPointerWhileTheHourglassIsShown)
+{
+    DesktopUserInterface userInterface(nullptr);
+    userInterface.SetPointer(Pointer::Hourglass);
+    const auto close = [](QDialog& dialog) {
+        EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::ArrowCursor);
+        dialog.reject();
+    };
+    OnceModal<QMessageBox>(close);
+    userInterface.Show(Box(kOkOnly));
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    OnceModal<QFileDialog>(close);
+    userInterface.AskSaveFileName({});
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    EXPECT_EQ(OverrideCursors(), 1);
+}
+
+TEST(DesktopUserInterface, DialogsLeaveThePointersOfTheirWidgetsAloneOtherwise)
+{
+    DesktopUserInterface userInterface(nullptr);
+    OnceModal<QMessageBox>([](QDialog& dialog) {
+        EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+        dialog.reject();
+    });
+    userInterface.Show(Box(kOkOnly));
+}
+
+TEST(DesktopUserInterface, ADialogInWhichTheHourglassEndsLeavesNoPointerBehind)
+{
+    for (const bool isDeleted : {true, false}) {
+        auto userInterface = std::make_unique<DesktopUserInterface>(nullptr);
+        userInterface->SetPointer(Pointer::Hourglass);
+        OnceModal<QMessageBox>([&](QDialog& dialog) {
+            if (isDeleted)
+                userInterface.reset();
+            else
+                userInterface->SetPointer(Pointer::Default);
+            dialog.reject();
+        });
+        userInterface->Show(Box(kOkOnly));
+        EXPECT_EQ(OverrideCursors(), 0);
+    }
+}
+
 TEST(DesktopUserInterface, AsksForAFileNameAndAddsTheSuffix)
 {
     const QTemporaryDir folder;

@@ -85,6 +85,46 @@ TEST_F(CScheduleLoad, ATableLargerThanTheWorkingAreaIsLoadedWhole)
     EXPECT_EQ(sheet.Text(At(610, 520)), QStringLiteral("x"));
 }
 
+/// A user who remembers which pointers he had seen when a box came, and may do something about it.
+struct WatchingUser : ScriptedUserInterface
+{
+    Answer Show(const MessageBox& box) override
+    {
+        seenBefore = pointers;
+        if (onShow)
+            onShow();
+        return ScriptedUserInterface::Show(box);
+    }
+
+    std::vector<Pointer> seenBefore;
+    std::function<void()> onShow;
+};
+
+TEST(CScheduleMessage, IsShownBeforeThePointerIsRestored)
+{
+    WatchingUser watching;
+    Sheet filled;
+    CSchedule loading(watching);
+    loading.SetSched(&filled);
+    EXPECT_FALSE(loading.LoadScheduleData(QStringLiteral("<no xml")));
+    EXPECT_EQ(watching.seenBefore, std::vector{Pointer::Hourglass});
+    EXPECT_EQ(watching.pointers, (std::vector{Pointer::Hourglass, Pointer::Default}));
+}
+
+TEST(CScheduleMessage, ThatEndsTheEngineRestoresThePointerOnce)
+{
+    WatchingUser watching;
+    auto filled = std::make_unique<Sheet>();
+    auto loading = std::make_unique<CSchedule>(watching);
+    loading->SetSched(filled.get());
+    watching.onShow = [&] {
+        loading.reset();
+        filled.reset();
+    };
+    EXPECT_FALSE(loading->LoadScheduleData(QStringLiteral("<no xml")));
+    EXPECT_EQ(watching.pointers, (std::vector{Pointer::Hourglass, Pointer::Default}));
+}
+
 TEST_F(CScheduleLoad, ThePointerIsBusyForTheLoad)
 {
     Loaded("Tag | Flow");

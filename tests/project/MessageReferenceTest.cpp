@@ -33,7 +33,7 @@ const QHash<QString, QVariant> kValues{
     {"ContextID", "20"},
     {"ErrorDescription", "The host does not listen to GetResourceModule"},
     {"ErrorNumber", 51},
-    {"ErrorSource", ""},
+    {"ErrorSource", "Schedules.ctlSchedule.SendRequestToOwner"},
     {"EventObjectName", "cmdHelp"},
     {"Form", "ctlSchedule"},
     {"ProcName", "Schedules.ctlSchedule.SendRequestToOwner"},

@@ -1,4 +1,4 @@
-#include "tools/schedule/CustomMessage.h"
+#include "tools/schedule/layout/CustomMessage.h"
 
 #include <QElapsedTimer>
 #include <QImage>

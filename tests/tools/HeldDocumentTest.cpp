@@ -3,6 +3,7 @@
 #include "tools/schedule/edits/EditedElement.h"
 
 #include <gtest/gtest.h>
+#include <set>
 
 namespace schedules {
 
@@ -27,7 +28,7 @@ std::string Edited(const char* xml, const std::vector<Change>& changes)
 {
     HeldDocument document = Held(xml);
     for (const auto& [line, slot, text] : changes) {
-        if (!document.SetCellText({line, slot}, text))
+        if (!document.SetCellText({line, slot}, text, {}))
             return "no element";
     }
     return document.Text().toStdString();
@@ -36,6 +37,14 @@ std::string Edited(const char* xml, const std::vector<Change>& changes)
 std::string Element(const char* xml, const QString& text)
 {
     return EditedElement(QByteArrayView(xml), text).toStdString();
+}
+
+std::set<Sheet::TablePlace> PlacesOf(const HeldDocument& document)
+{
+    std::set<Sheet::TablePlace> places;
+    for (const auto& [place, former] : document.Unsaved())
+        places.insert(place);
+    return places;
 }
 
 constexpr auto kTable = "<TABLE><TR><TH/><TH>A</TH></TR><TR><TH>1</TH><TD>a1</TD></TR></TABLE>";
@@ -109,9 +118,9 @@ TEST(HeldDocument, AnEditedCellNoLongerHoldsATable)
 TEST(HeldDocument, OnceSettledItCountsInTheEditedText)
 {
     HeldDocument document = Held(kTable);
-    document.SetCellText({0, 0}, QStringLiteral("longer than before"));
+    document.SetCellText({0, 0}, QStringLiteral("longer than before"), {});
     document.Settle();
-    EXPECT_TRUE(document.SetCellText({1, 1}, QStringLiteral("x")));
+    EXPECT_TRUE(document.SetCellText({1, 1}, QStringLiteral("x"), {}));
     EXPECT_EQ(document.Text(), QStringLiteral("<TABLE><TR><TH Dirty=\"-1\">longer than before</TH><TH>A</TH></TR>"
                                               "<TR><TH>1</TH><TD Dirty=\"-1\">x</TD></TR></TABLE>"));
 }
@@ -121,14 +130,14 @@ TEST(HeldDocument, UnsavedPlacesFollowTheRowsThatAnEditedCellLoses)
     HeldDocument document =
         Held("<TABLE><TR><TD>a</TD><TD><TABLE><TR><TD>in</TD></TR><TR><TD>in 2</TD></TR></TABLE></TD>"
              "</TR><TR><TD>below</TD></TR></TABLE>");
-    document.SetCellText({0, 0}, QStringLiteral("longer"));
-    document.SetCellText({1, 0}, QStringLiteral("goes with its cell"));
-    document.SetCellText({3, 0}, QStringLiteral("edited"));
-    document.SetCellText({0, 1}, QStringLiteral("no table"));
+    document.SetCellText({0, 0}, QStringLiteral("longer"), {});
+    document.SetCellText({1, 0}, QStringLiteral("goes with its cell"), {});
+    document.SetCellText({3, 0}, QStringLiteral("edited"), {});
+    document.SetCellText({0, 1}, QStringLiteral("no table"), {});
     document.Settle();
     EXPECT_EQ(document.Text().toStdString(), "<TABLE><TR><TD Dirty=\"-1\">longer</TD><TD Dirty=\"-1\">no table</TD>"
                                              "</TR><TR><TD Dirty=\"-1\">edited</TD></TR></TABLE>");
-    EXPECT_EQ(document.Unsaved(), (std::set<Sheet::TablePlace>{{0, 0}, {0, 1}, {1, 0}}));
+    EXPECT_EQ(PlacesOf(document), (std::set<Sheet::TablePlace>{{0, 0}, {0, 1}, {1, 0}}));
 }
 
 TEST(HeldDocument, KeepsAByteOrderMark)
@@ -136,21 +145,21 @@ TEST(HeldDocument, KeepsAByteOrderMark)
     const QString marked = QChar(QChar::ByteOrderMark) + QLatin1String(kTable);
     HeldDocument document;
     document.Hold(marked);
-    ASSERT_TRUE(document.SetCellText({1, 1}, QStringLiteral("x")));
+    ASSERT_TRUE(document.SetCellText({1, 1}, QStringLiteral("x"), {}));
     EXPECT_EQ(document.Text(), QString(marked).replace(QStringLiteral("<TD>a1"), QStringLiteral("<TD Dirty=\"-1\">x")));
 }
 
 TEST(HeldDocument, KnowsWhatIsNotSaved)
 {
     HeldDocument document = Held(kTable);
-    document.SetCellText({1, 1}, QStringLiteral("x"));
-    document.SetCellText({9, 9}, QStringLiteral("x"));
+    document.SetCellText({1, 1}, QStringLiteral("x"), {});
+    document.SetCellText({9, 9}, QStringLiteral("x"), {});
     document.Settle();
-    EXPECT_EQ(document.Unsaved(), (std::set<Sheet::TablePlace>{{1, 1}}));
-    document.SetSaved();
+    EXPECT_EQ(PlacesOf(document), (std::set<Sheet::TablePlace>{{1, 1}}));
+    document.TakeUnsaved();
     EXPECT_TRUE(document.Unsaved().empty());
     EXPECT_NE(document.Text(), QLatin1String(kTable)) << "saving keeps the edits";
-    document.SetCellText({1, 1}, QStringLiteral("y"));
+    document.SetCellText({1, 1}, QStringLiteral("y"), {});
     document.Hold(QLatin1String(kTable));
     EXPECT_TRUE(document.Unsaved().empty());
     EXPECT_EQ(document.Text(), QLatin1String(kTable));

@@ -26,7 +26,7 @@ TEST(ImageFile, HasNoOther)
 TEST_F(ToolbarIcons, AreThoseOfTheImageNumbers)
 {
     AddViewTools();
-    for (const ScheduleTool& tool : ScheduleToolsOf(1, false)) {
+    for (const ViewTool& tool : ViewToolsOf(ViewSettings{.viewType = 1})) {
         const QImage expected = SymbolIcon(ImageFile(tool.image), bar).pixmap(QSize(16, 16), 1).toImage();
         EXPECT_EQ(Button(tool.key)->icon().pixmap(QSize(16, 16), 1).toImage(), expected) << tool.key;
         EXPECT_FALSE(expected.isNull()) << tool.key;

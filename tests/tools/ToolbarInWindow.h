@@ -2,7 +2,8 @@
 
 #include "controls/desktop/SymbolIcon.h"
 #include "tools/schedule/bar/ScheduleToolbar.h"
-#include "tools/schedule/bar/ScheduleTools.h"
+#include "tools/schedule/ViewSettings.h"
+#include "tools/schedule/bar/ViewTools.h"
 
 #include <QAccessible>
 #include <QAction>
@@ -77,6 +78,7 @@ protected:
         layout->addWidget(bar);
         layout->addWidget(&after);
         QObject::connect(bar, &ScheduleToolbar::ViewToolClicked, [this](const QString& key) { clicks += key; });
+        QObject::connect(bar, &ScheduleToolbar::EntryChosen, [this](const QString& name) { clicks += name; });
         QObject::connect(bar, &ScheduleToolbar::HostToolClicked,
                          [this](const QString& owner, const QString& key) { clicks += owner + '/' + key; });
         exportMenu.addAction(QStringLiteral("Workbook"), [this] { clicks += QStringLiteral("Workbook"); });
@@ -85,7 +87,7 @@ protected:
 
     void AddViewTools()
     {
-        for (const ScheduleTool& tool : ScheduleToolsOf(1, false))
+        for (const ViewTool& tool : ViewToolsOf(ViewSettings{.viewType = 1}))
             bar->AddViewTool({{}, QLatin1String(tool.key), tool.image, QLatin1String(tool.caption), "Tip"});
     }
 

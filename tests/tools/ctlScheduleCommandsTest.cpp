@@ -168,19 +168,18 @@ TEST_F(ScheduleCommands, TransposeExchangesTheFrozenCounts)
     EXPECT_EQ(Frozen(), "1 x 2");
 }
 
-TEST_F(ScheduleCommands, TransposeLeavesNoCellActiveThatTheFreshTableDoesNotHave)
+TEST_F(ScheduleCommands, TransposeTurnsWhatIsShownWhateverTextWaits)
 {
     Start(kScheduleView, kSchedule);
     TheSheet()->SetActiveCell({Column(2), Row(1)});
-    view.IToolUI_XML(kOtherSchedule);
-    Click("btnTranspose");
-    EXPECT_EQ(Grid(), " | V-1\nArea | 7");
-    EXPECT_EQ(TheSheet()->ActiveCell(), Cell());
-    Activate(kSchedule);
-    TheSheet()->SetActiveCell({Column(1), Row(1)});
-    view.IToolUI_XML(kBroken);
-    Click("btnTranspose");
-    EXPECT_EQ(TheSheet()->ActiveCell(), Cell());
+    for (const QString& waiting : {kOtherSchedule, kBroken}) {
+        view.IToolUI_XML(waiting);
+        Click("btnTranspose");
+        EXPECT_EQ(Grid(), " | P-1\nFlow | 12\nHead | 48");
+        EXPECT_EQ(TheSheet()->ActiveCell(), (Cell{Column(1), Row(2)}));
+        Click("btnTranspose");
+    }
+    EXPECT_EQ(Boxes(), "");
 }
 
 TEST_F(ScheduleCommands, TransposeKeepsEdits)
@@ -216,7 +215,8 @@ TEST_F(ScheduleCommands, TransposeResetsTicksToWhatTheHostHasSet)
 TEST_F(ScheduleCommands, TransposeThatFailsShowsTheMessages)
 {
     Start(kScheduleView, kSchedule);
-    view.IToolUI_XML(kBroken);
+    Activate(kBroken);
+    user.boxes.clear();
     Click("btnTranspose");
     EXPECT_EQ(Boxes(), "Missing: 1064 (0)\nMissing: 3040 (0)");
     EXPECT_TRUE(TheSheet()->Repainting());
@@ -246,7 +246,7 @@ TEST_F(ScheduleCommands, TheLegendStaysAsItWasWhenTransposeFails)
 {
     view.setProperty("RowsFrozen", 1);
     Start(kSelectorView, kSelection);
-    view.IToolUI_XML(kBroken);
+    Activate(kBroken);
     Click("btnTranspose");
     EXPECT_EQ(Find<QLabel>("lblLegend")->text(),
               QStringLiteral("Note: the first data row contains selection requirements only."));

@@ -125,21 +125,7 @@ TEST_F(CellEditingTest, WithoutAnElementGridAndFlagChangeAllTheSame)
     EXPECT_EQ(SavedXml(), kEditable.toStdString());
 }
 
-TEST_F(CellEditingTest, AnEditThatWasOpenWhenAnotherDocumentCameChangesTheGridAlone)
-{
-    ShowSchedule();
-    ClickCell(1, 1);
-    Type("20");
-    view.IToolUI_XML(kOtherSchedule);
-    EXPECT_EQ(Edit(), "1,1: 20") << "new text changes nothing on screen";
-    Key(Qt::Key_Return);
-    EXPECT_EQ(TextAt(1, 1), "20");
-    EXPECT_TRUE(Dirty());
-    Click("btnSaveTag");
-    EXPECT_EQ(SavedXml(), kOtherSchedule.toStdString());
-}
-
-TEST_F(CellEditingTest, BetweenNewTextAndItsActivationWhatTheNewTextAllowsIsEditedThere)
+TEST_F(CellEditingTest, FreshTextOfTheSameTableIsEditedBeforeItsActivation)
 {
     ShowSchedule();
     const QString fresh = QString(kEditable).replace(QStringLiteral(">12<"), QStringLiteral(">11<"));
@@ -155,15 +141,6 @@ TEST_F(CellEditingTest, BetweenNewTextAndItsActivationWhatTheNewTextAllowsIsEdit
     ASSERT_TRUE(fresh.contains(before));
     EXPECT_EQ(SavedXml(),
               QString(fresh).replace(before, QStringLiteral("AllowEdit='-1' Dirty=\"-1\">20<")).toStdString());
-}
-
-TEST_F(CellEditingTest, BetweenNewTextAndItsActivationWhatTheNewTextDoesNotAllowCannotBeEdited)
-{
-    ShowSchedule();
-    view.IToolUI_XML(kOtherSchedule);
-    ClickCell(1, 1);
-    Key(Qt::Key_F2);
-    EXPECT_EQ(Edit(), "idle");
 }
 
 TEST_F(CellEditingTest, ReportsNoErrors)

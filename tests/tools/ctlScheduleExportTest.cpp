@@ -27,6 +27,9 @@ const QString kWithHidden = QStringLiteral("<TABLE><TR><TH>Tag</TH><TH>A</TH><TH
 class ExportTest : public EditingTest
 {
 protected:
+    /// An entry of Export's menu.
+    void Choose(const char* entry) { Tool(entry)->trigger(); }
+
     void ShowTable()
     {
         Show(kScheduleView, kWithHidden);
@@ -99,17 +102,25 @@ TEST_F(ExportTest, TheMenuLeadsToBoth)
     ASSERT_EQ(menu->actions().size(), 2);
     EXPECT_EQ(Tool("mnuExportExcel")->text(), QStringLiteral("Missing: 1059"));
     EXPECT_EQ(Tool("mnuExportHtml")->text(), QStringLiteral("Missing: 1060"));
-    Tool("mnuExportExcel")->trigger();
-    Tool("mnuExportHtml")->trigger();
+    Choose("mnuExportExcel");
+    Choose("mnuExportHtml");
     ASSERT_EQ(user.questions.size(), 2u);
     EXPECT_EQ(user.questions[0].title, QStringLiteral("Missing: 1071"));
     EXPECT_EQ(user.questions[1].title, QStringLiteral("Missing: 1061"));
 }
 
+TEST_F(ExportTest, EntriesOfTheMenuAreNoKeysOfTools)
+{
+    ShowTable();
+    for (const char* key : {"mnuExportExcel", "mnuExportHtml", "mnuExport", "vaSpread1", ""})
+        Click(key);
+    EXPECT_TRUE(user.questions.empty());
+}
+
 TEST_F(ExportTest, TheWebPageIsAskedFor)
 {
     ShowTable();
-    Click("mnuExportHtml");
+    Choose("mnuExportHtml");
     ASSERT_EQ(user.questions.size(), 1u);
     const FileQuestion& question = user.questions.front();
     EXPECT_EQ(question.fileName, QStringLiteral("*.htm"));
@@ -179,7 +190,7 @@ TEST_F(ExportTest, AWebPageThatIsWrittenIsTold)
 {
     ShowTable();
     user.fileNames = {Path("plan.htm")};
-    Click("mnuExportHtml");
+    Choose("mnuExportHtml");
     EXPECT_EQ(Boxes(), "Missing: 3056\r\n\r\nMissing: 3057 " + Path("plan.htm").toStdString() + " (64) Missing: 3058");
     EXPECT_EQ(Files(), "plan.htm");
     const QByteArray page = Content(Path("plan.htm"));
@@ -204,7 +215,7 @@ TEST_F(ExportTest, AWebPageThatFailsNamesItsLog)
     ShowTable();
     QDir(folder.path()).mkdir(QStringLiteral("plan.htm"));
     user.fileNames = {Path("plan.htm")};
-    Click("mnuExportHtml");
+    Choose("mnuExportHtml");
     EXPECT_EQ(Boxes(),
               "Missing: 3059\r\n\r\nMissing: 3060 " + Path("plan.htm.LOG").toStdString() + " (48) Missing: 3058");
     EXPECT_TRUE(Content(Path("plan.htm.LOG")).startsWith(Path("plan.htm").toUtf8() + ": "));

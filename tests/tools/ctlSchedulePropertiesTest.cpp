@@ -174,7 +174,7 @@ TEST_F(ScheduleCustomMessage, IsRichTextByItsMarkAnywhereInLowerCase)
 
 namespace {
 
-class ScheduleLayout : public ScheduleViewTest
+class ScheduleViewLayout : public ScheduleViewTest
 {
 protected:
     QRect Place(const char* name) const
@@ -199,7 +199,7 @@ protected:
 
 } // namespace
 
-TEST_F(ScheduleLayout, StacksMessageToolbarGridLegendAndButtons)
+TEST_F(ScheduleViewLayout, StacksMessageToolbarGridLegendAndButtons)
 {
     ShowSelector({900, 600});
     const std::vector tops{Place("rtbCustomMsg").top(), Place("tbTasks").top(), Place("vaSpread1").top(),
@@ -209,14 +209,14 @@ TEST_F(ScheduleLayout, StacksMessageToolbarGridLegendAndButtons)
     EXPECT_GT(Place("cmdContinue").left(), 450);
 }
 
-TEST_F(ScheduleLayout, GivesALongMessageAThirdOfTheView)
+TEST_F(ScheduleViewLayout, GivesALongMessageAThirdOfTheView)
 {
     ShowSelector({900, 600});
     EXPECT_GT(Find<QWidget>("rtbCustomMsg")->sizeHint().height(), 200);
     EXPECT_EQ(Place("rtbCustomMsg").height(), 200);
 }
 
-TEST_F(ScheduleLayout, LeavesTheGridRoomInASmallView)
+TEST_F(ScheduleViewLayout, LeavesTheGridRoomInASmallView)
 {
     ShowSelector({320, 240});
     EXPECT_EQ(view.size(), QSize(320, 240));
@@ -225,7 +225,7 @@ TEST_F(ScheduleLayout, LeavesTheGridRoomInASmallView)
     EXPECT_LE(Place("cmdCancel").bottom(), 240);
 }
 
-TEST_F(ScheduleLayout, IsMirroredWhereTextRunsFromRightToLeft)
+TEST_F(ScheduleViewLayout, IsMirroredWhereTextRunsFromRightToLeft)
 {
     view.setLayoutDirection(Qt::RightToLeft);
     ShowSelector({900, 600});

@@ -92,7 +92,7 @@ TEST_F(ScheduleProtocol, AModuleReplyThatIsNoNumberIsReportedAndEndsTheStartUp)
                                      "event ctlSchedule -> Framework: ErrorMessage 20 9 "
                                      "[2 ErrorDescription=The host's resource module is not a number: ") +
                              reply +
-                             "] [2 ErrorSource=] [3 ErrorNumber=13] "
+                             "] [2 ErrorSource=Schedules.ctlSchedule.IToolUI_Initialize] [3 ErrorNumber=13] "
                              "[2 ProcName=Schedules.ctlSchedule.IToolUI_Initialize]");
         EXPECT_EQ(trace.lines, QStringList{});
         EXPECT_EQ(ResourceModule(), 0);
@@ -105,7 +105,8 @@ TEST_F(ScheduleProtocol, AHostWhoseModuleRequestFailsIsToldAndTheStartUpEnds)
     Initialize(view);
     EXPECT_EQ(Log(), "request ctlSchedule -> Host: GetResourceModule 0 3\n"
                      "event ctlSchedule -> Framework: ErrorMessage 20 9 "
-                     "[2 ErrorDescription=The host does not listen to GetResourceModule] [2 ErrorSource=] "
+                     "[2 ErrorDescription=The host does not listen to GetResourceModule] "
+                     "[2 ErrorSource=Schedules.ctlSchedule.SendRequestToOwner] "
                      "[3 ErrorNumber=51] [2 ProcName=Schedules.ctlSchedule.SendRequestToOwner]");
     EXPECT_EQ(user.pointers.back(), Pointer::Default);
 }

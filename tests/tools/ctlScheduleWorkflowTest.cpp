@@ -225,20 +225,4 @@ TEST_F(WorkflowTest, TheLoadMethodsKeepTheirText)
     EXPECT_FALSE(Dirty());
 }
 
-TEST_F(WorkflowTest, TransposeShowsNewTextButOnlyAnActivationLetsItBeEdited)
-{
-    Show(kScheduleView, kEditable);
-    EditCell(1, 1, "20");
-    view.IToolUI_XML(kEditable);
-    Click("btnTranspose");
-    EXPECT_TRUE(Dirty());
-    ClickCell(1, 1);
-    EXPECT_EQ(Edit(), "idle");
-    EXPECT_EQ(Marked(), "");
-    view.IToolUI_Activate();
-    EXPECT_FALSE(Dirty());
-    ClickCell(1, 1);
-    EXPECT_EQ(Edit(), "1,1: 12");
-}
-
 } // namespace schedules

@@ -7,6 +7,31 @@
 
 namespace schedules {
 
+namespace {
+
+/// Shows the ordinary pointer over whatever is shown instead of it. Each pointer that is set takes one away in the end,
+/// whichever goes first, so a dialog may be the end of whoever shows the hourglass.
+class OrdinaryPointer
+{
+public:
+    OrdinaryPointer()
+    {
+        if (m_isHidden)
+            QApplication::setOverrideCursor(Qt::ArrowCursor);
+    }
+    ~OrdinaryPointer()
+    {
+        if (m_isHidden)
+            QApplication::restoreOverrideCursor();
+    }
+    Q_DISABLE_COPY_MOVE(OrdinaryPointer)
+
+private:
+    bool m_isHidden = QApplication::overrideCursor() != nullptr;
+};
+
+} // namespace
+
 DesktopUserInterface::DesktopUserInterface(QWidget* parent) : m_parent(parent) {}
 
 DesktopUserInterface::~DesktopUserInterface()
@@ -21,6 +46,7 @@ QWidget* DesktopUserInterface::Window() const
 
 Answer DesktopUserInterface::Show(const MessageBox& box)
 {
+    const OrdinaryPointer pointer;
     return AskOver(Window(), box);
 }
 
@@ -43,6 +69,7 @@ void DesktopUserInterface::Beep()
 
 QString DesktopUserInterface::AskSaveFileName(const FileQuestion& question)
 {
+    const OrdinaryPointer pointer;
     return SaveFileDialog::Ask(question, Window());
 }
 

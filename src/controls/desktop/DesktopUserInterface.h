@@ -8,7 +8,8 @@
 namespace schedules {
 
 /// Speaks to the user of a desktop, in dialogs over the window of a widget. When that window is deleted while a dialog
-/// is open, the dialog counts as cancelled; this object may be gone with it.
+/// is open, the dialog counts as cancelled; this object may be gone with it. A dialog has the ordinary pointer, also
+/// while the hourglass is shown, which comes back afterwards.
 class DesktopUserInterface : public UserInterface
 {
 public:

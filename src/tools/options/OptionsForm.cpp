@@ -3,13 +3,13 @@
 #include "common/modResource.h"
 #include "controls/lists/CheckList.h"
 #include "controls/lists/FilteredList.h"
+#include "tools/options/names/NameBox.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 
 #include <algorithm>
@@ -149,8 +149,7 @@ void OptionsForm::BuildNameEditor()
 {
     fraItem = Frame(m_editor, "fraItem", kFrameOfName);
     lblDisplayName = Named<QLabel>(m_editor, "lblDisplayName", kNameLabel);
-    txtDisplayName = Named<QLineEdit>(m_editor, "txtDisplayName", "");
-    txtDisplayName->setMaxLength(std::numeric_limits<int>::max());
+    txtDisplayName = Named<NameBox>(m_editor, "txtDisplayName", "");
     lblDisplayName->setBuddy(txtDisplayName);
     fraItem->setFlat(true);
     cmdUpdateUDItemName = Named<QPushButton>(m_editor, "cmdUpdateUDItemName", kUpdate);

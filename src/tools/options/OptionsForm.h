@@ -11,7 +11,6 @@ class QGridLayout;
 class QGroupBox;
 class QLabel;
 class QLayout;
-class QLineEdit;
 class QPushButton;
 class QWidget;
 
@@ -19,6 +18,7 @@ namespace schedules {
 
 class CheckList;
 class FilteredList;
+class NameBox;
 
 /// The controls of the options editor under their names, built and laid out. They belong to the widget that they are
 /// built on.
@@ -54,7 +54,7 @@ public:
     CheckList* lstItems;
     QGroupBox* fraItem;
     QLabel* lblDisplayName;
-    QLineEdit* txtDisplayName;
+    NameBox* txtDisplayName;
     QPushButton* cmdUpdateUDItemName;
     QPushButton* cmdResetUDItemName;
     QPushButton* cmdSaveAs;

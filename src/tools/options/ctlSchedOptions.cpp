@@ -5,14 +5,13 @@
 #include "controls/desktop/DesktopUserInterface.h"
 #include "controls/lists/CheckList.h"
 #include "controls/lists/FilteredList.h"
-#include "tools/options/Guarded.h"
+#include "tools/options/EditorRooms.h"
+#include "tools/options/lists/ListEntries.h"
+#include "tools/options/names/NameBox.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
-#include <QKeyEvent>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QResizeEvent>
 
@@ -42,17 +41,57 @@ int HandleIn(const QString& reply)
     return static_cast<int>(handle);
 }
 
+/// False when it cannot be pressed, or when pressing it was the end of the tool.
+bool Press(QPushButton& button, const ToolLife& life)
+{
+    if (!button.isEnabled())
+        return false;
+    const ToolLife::Watch watch(life);
+    button.click();
+    return watch.IsAlive();
+}
+
 } // namespace
 
-ctlSchedOptions::ctlSchedOptions(UserInterface* userInterface)
-    : ToolControl("ctlSchedOptions", userInterface),
-      m_reports(std::make_shared<GatheredReports>(userInterface ? *userInterface
-                                                                : Own(std::make_unique<DesktopUserInterface>(this)))),
-      m_form(*this)
+template <std::invocable Body>
+void ctlSchedOptions::Entered(Body&& body) noexcept
 {
+    const ToolLife::Watch watch(Life());
+    UntilGone([&] {
+        std::invoke(body);
+        if (watch.IsAlive())
+            EnableControls();
+    });
+    if (watch.IsAlive())
+        TellUnsavedEdits();
+}
+
+/// What the body returns; false when the tool has gone with it.
+template <std::invocable Body>
+bool ctlSchedOptions::EnteredWith(Body&& body) noexcept
+{
+    const ToolLife::Watch watch(Life());
+    bool isDone = false;
+    Entered([&] { isDone = std::invoke(body); });
+    return watch.IsAlive() && isDone;
+}
+
+template <class Sender, class Signal, class Room>
+void ctlSchedOptions::Enter(Sender* sender, Signal signal, Room& room, void (Room::*procedure)())
+{
+    connect(sender, signal, this, [this, &room, procedure] { Entered([&] { (room.*procedure)(); }); });
+}
+
+ctlSchedOptions::ctlSchedOptions(UserInterface* userInterface) : ToolControl("ctlSchedOptions", userInterface)
+{
+    if (!userInterface)
+        Own(std::make_unique<DesktopUserInterface>(this));
+    m_rooms = std::make_unique<EditorRooms>(*this, *this, Link());
     EnableControls();
-    ConnectControls();
+    ConnectTemplates();
+    ConnectLists();
     ConnectNameEditor();
+    ConnectButtons();
     TraceProcedure("UserControl_Initialize");
 }
 
@@ -62,45 +101,63 @@ ctlSchedOptions::~ctlSchedOptions()
     TraceProcedure("UserControl_Terminate");
 }
 
-void ctlSchedOptions::ConnectControls()
+void ctlSchedOptions::ConnectTemplates()
 {
-    const auto enters = [this](auto* sender, auto signal, void (ctlSchedOptions::*procedure)()) {
-        connect(sender, signal, this, [this, procedure] { Entered([&] { (this->*procedure)(); }); });
-    };
-    enters(m_form.cboTemplates, &QComboBox::activated, &ctlSchedOptions::cboTemplates_Click);
-    enters(m_form.lstGroups, &CheckList::Clicked, &ctlSchedOptions::lstGroups_Click);
-    enters(m_form.lstItems, &CheckList::Clicked, &ctlSchedOptions::lstItems_Click);
-    enters(m_form.chkShowGroupName, &QCheckBox::clicked, &ctlSchedOptions::chkShowGroupName_Click);
-    enters(m_form.cmdApply, &QPushButton::clicked, &ctlSchedOptions::cmdApply_Click);
-    enters(m_form.cmdOK, &QPushButton::clicked, &ctlSchedOptions::cmdOK_Click);
-    enters(m_form.cmdCancel, &QPushButton::clicked, &ctlSchedOptions::cmdCancel_Click);
-    enters(m_form.cmdSaveAs, &QPushButton::clicked, &ctlSchedOptions::cmdSaveAs_Click);
-    enters(m_form.cmdDelete, &QPushButton::clicked, &ctlSchedOptions::cmdDelete_Click);
+    Enter(m_rooms->form.cboTemplates, &QComboBox::activated, m_rooms->selector, &TemplateSelector::cboTemplates_Click);
+}
+
+void ctlSchedOptions::ConnectLists()
+{
+    const OptionsForm& form = m_rooms->form;
+    GroupList& groups = m_rooms->groups;
+    ItemList& items = m_rooms->items;
+    Enter(form.lstGroups, &CheckList::Clicked, groups, &GroupList::lstGroups_Click);
+    Enter(form.lstItems, &CheckList::Clicked, items, &ItemList::lstItems_Click);
+    Enter(form.chkShowGroupName, &QCheckBox::clicked, groups, &GroupList::chkShowGroupName_Click);
+    connect(form.lstGroups, &CheckList::MoveRequested, this,
+            [this, &groups](int from, int to) { Entered([&] { groups.MoveGroupObject(to, from); }); });
+    connect(form.lstItems, &CheckList::MoveRequested, this,
+            [this, &items](int from, int to) { Entered([&] { items.MoveElementObject(to, from); }); });
     for (const int index : {0, 1}) {
         const auto place = static_cast<std::size_t>(index);
-        connect(m_form.cmdGroupMove[place], &QPushButton::clicked, this,
-                [this, index] { Entered([&] { cmdGroupMove_Click(index); }); });
-        connect(m_form.cmdItemMove[place], &QPushButton::clicked, this,
-                [this, index] { Entered([&] { cmdItemMove_Click(index); }); });
+        connect(form.cmdGroupMove[place], &QPushButton::clicked, this,
+                [this, &groups, index] { Entered([&] { groups.cmdGroupMove_Click(index); }); });
+        connect(form.cmdItemMove[place], &QPushButton::clicked, this,
+                [this, &items, index] { Entered([&] { items.cmdItemMove_Click(index); }); });
     }
-    connect(m_form.groups, &FilteredList::Narrowed, this, &ctlSchedOptions::EnableMoving);
-    connect(m_form.items, &FilteredList::Narrowed, this, &ctlSchedOptions::EnableMoving);
-    connect(m_form.lstGroups, &CheckList::MoveRequested, this,
-            [this](int from, int to) { Entered([&] { MoveGroupObject(to, from); }); });
-    connect(m_form.lstItems, &CheckList::MoveRequested, this,
-            [this](int from, int to) { Entered([&] { MoveElementObject(to, from); }); });
+    for (const FilteredList* list : {form.groups, form.items})
+        connect(list, &FilteredList::Narrowed, this, &ctlSchedOptions::EnableMoving);
+}
+
+void ctlSchedOptions::ConnectNameEditor()
+{
+    const OptionsForm& form = m_rooms->form;
+    ItemNameEditor& names = m_rooms->names;
+    Enter(form.txtDisplayName, &QLineEdit::textChanged, names, &ItemNameEditor::txtDisplayName_Change);
+    Enter(form.txtDisplayName, &NameBox::Focused, names, &ItemNameEditor::txtDisplayName_GotFocus);
+    Enter(form.cmdUpdateUDItemName, &QPushButton::clicked, names, &ItemNameEditor::cmdUpdateUDItemName_Click);
+    Enter(form.cmdResetUDItemName, &QPushButton::clicked, names, &ItemNameEditor::cmdResetUDItemName_Click);
+    form.txtDisplayName->OnKey(
+        [this, &names](int key) { return EnteredWith([&] { return names.txtDisplayName_KeyPress(key); }); });
+}
+
+void ctlSchedOptions::ConnectButtons()
+{
+    const OptionsForm& form = m_rooms->form;
+    Enter(form.cmdApply, &QPushButton::clicked, *this, &ctlSchedOptions::cmdApply_Click);
+    Enter(form.cmdOK, &QPushButton::clicked, *this, &ctlSchedOptions::cmdOK_Click);
+    Enter(form.cmdCancel, &QPushButton::clicked, *this, &ctlSchedOptions::cmdCancel_Click);
+    Enter(form.cmdSaveAs, &QPushButton::clicked, *this, &ctlSchedOptions::cmdSaveAs_Click);
+    Enter(form.cmdDelete, &QPushButton::clicked, m_rooms->deleting, &TemplateDeleting::cmdDelete_Click);
 }
 
 void ctlSchedOptions::IToolUI_Initialize(IMsgRouter* msgRouter, const QString& sOwner)
 {
     Entered([&] {
-        m_templates = std::make_shared<CTemplates>(*m_reports);
-        m_categories = std::make_shared<CCategories>(*m_reports);
-        const QPointer<QWidget> alive(this);
-        StartUp(msgRouter, sOwner, "INITIALIZESCHEDOPTIONS");
-        RequireAlive(alive);
-        m_form.Translate();
-        m_form.KeepCaptionWithoutGroup();
+        m_rooms->catalogue.Begin();
+        Life().WhileAlive([&] { StartUp(msgRouter, sOwner, "INITIALIZESCHEDOPTIONS"); });
+        m_rooms->form.Translate();
+        m_rooms->form.KeepCaptionWithoutGroup();
     });
 }
 
@@ -108,10 +165,12 @@ bool ctlSchedOptions::ObtainResourceModule()
 {
     if (ResourceModule() != 0)
         return true;
-    const RequestMessage request = Request(u"GetResourceModule");
+    const auto reply = [this] {
+        return Life().WhileAlive([this] { return SendRequestToOwner(Request(u"GetResourceModule")); });
+    };
     // Hosts count on being asked twice: the first answer says whether there is one, the second is the one.
-    if (NumberIn(Reply(request))) {
-        if (const int handle = HandleIn(Reply(request)))
+    if (NumberIn(reply())) {
+        if (const int handle = HandleIn(reply()))
             SetResourceModule(handle);
     }
     return true;
@@ -126,122 +185,139 @@ void ctlSchedOptions::IToolUI_Activate()
 {
     Entered([this] {
         TraceProcedure("IToolUI_Activate");
-        Guarded("IToolUI_Activate", [this] { Activate(); });
+        m_rooms->activation.IToolUI_Activate();
     });
-}
-
-void ctlSchedOptions::Activate()
-{
-    if (m_state.loaded)
-        return;
-    m_state.loaded = true; // whatever comes of it: a failed activation is not tried again
-    const PointerReset reset(*this);
-    Ui().SetPointer(Pointer::Hourglass);
-    const QString templateList = GetAllTemplates();
-    m_builderPath = GetBuilderPath();
-    const QString categories = Ask(Request(u"GETTEMPLATECATEGORIES"));
-    if (!m_templates) {
-        m_templates = std::make_shared<CTemplates>(*m_reports);
-        m_form.SetEnabled(true);
-    }
-    if (!templateList.isEmpty() && !m_builderPath.isEmpty())
-        CreateCatalogue(templateList, categories);
-    else
-        m_templates->Clear();
-    SelectByFile(Ask(Request(u"GETCURRENTSCHEDTEMPLATE")));
-    LoadTemplatesList();
-    if (m_state.currentTemplate) {
-        SelectTemplateEntry(m_state.currentTemplate->ID());
-        LoadGroupsList();
-    }
-    m_state.eventsEnabled = true;
-    SetCurrentGroup(-1);
-}
-
-void ctlSchedOptions::CreateCatalogue(const QString& templateList, const QString& categories)
-{
-    const QPointer<QWidget> alive(this);
-    const auto templates = m_templates; // what is reported may be the end of the editor
-    const auto reports = m_reports;
-    bool isCreated = false;
-    reports->Together(
-        [&, folder = m_builderPath] { isCreated = templates->CreateObjects(templateList, categories, folder); });
-    RequireAlive(alive);
-    if (isCreated)
-        m_edited.clear();
 }
 
 void ctlSchedOptions::IToolUI_Deactivate(bool)
 {
     TraceProcedure("IToolUI_Deactivate");
     IgnoringErrors([this] {
-        m_state.ForgetTemplate();
-        m_templates.reset();
-        m_categories.reset();
-        m_form.SetEnabled(false);
+        Life().Interrupt();
+        m_rooms->state.ForgetTemplate();
+        m_rooms->catalogue.End();
+        m_rooms->form.SetEnabled(false);
+    });
+    TellUnsavedEdits();
+}
+
+QString ctlSchedOptions::TemplateFile() const
+{
+    const auto& current = m_rooms->state.currentTemplate;
+    return current ? current->Filename() : QString();
+}
+
+bool ctlSchedOptions::ChooseTemplate(const QString& fileName)
+{
+    return EnteredWith([&] {
+        if (!m_rooms->form.cboTemplates->isEnabled())
+            return false;
+        const int id = m_rooms->selector.TemplateOf(fileName);
+        if (id <= 0)
+            return false;
+        m_rooms->selector.SelectTemplateEntry(id);
+        return m_rooms->state.currentTemplate && m_rooms->state.currentTemplate->ID() == id;
     });
 }
 
-QString ctlSchedOptions::Reply(const RequestMessage& message)
+bool ctlSchedOptions::SelectGroup(const QString& name)
 {
-    const QPointer<QWidget> alive(this);
-    const QString reply = SendRequestToOwner(message);
-    RequireAlive(alive);
-    return reply;
+    return EnteredWith([&] { return m_rooms->groups.SelectEntry(name); });
 }
 
-QString ctlSchedOptions::Ask(const RequestMessage& message)
+bool ctlSchedOptions::SelectItem(const QString& name)
 {
-    return WhileActive([&] { return Reply(message); });
+    return EnteredWith([&] { return m_rooms->items.SelectEntry(name); });
 }
 
-Answer ctlSchedOptions::Tell(const MessageBox& box)
+bool ctlSchedOptions::HasUnsavedEdits() const
 {
-    return WhileActive([&] { return Ui().Show(box); });
+    return m_rooms->state.IsDirty();
 }
 
-QString ctlSchedOptions::GetAllTemplates()
+bool ctlSchedOptions::Apply()
 {
-    return Guarded(__func__, QString(), [this] { return Ask(Request(u"GETTEMPLATELIST", {QString()})); });
+    return Press(*m_rooms->form.cmdApply, Life());
 }
 
-QString ctlSchedOptions::GetBuilderPath()
+bool ctlSchedOptions::Cancel()
 {
-    return Guarded(__func__, QString(), [this] { return Ask(Request(u"GETBUILDERPATH", {QString()})); });
+    return Press(*m_rooms->form.cmdCancel, Life());
+}
+
+QSize ctlSchedOptions::minimumSizeHint() const
+{
+    return OptionsForm::kSmallest;
 }
 
 void ctlSchedOptions::resizeEvent(QResizeEvent* event)
 {
-    m_form.FitInto(event->size());
+    m_rooms->form.FitInto(event->size());
     ToolControl::resizeEvent(event);
 }
 
 void ctlSchedOptions::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LayoutDirectionChange)
-        m_form.Mirror(layoutDirection());
+        m_rooms->form.Mirror(layoutDirection());
     if (event->type() == QEvent::FontChange)
-        m_form.FitInto(size());
+        m_rooms->form.FitInto(size());
     ToolControl::changeEvent(event);
 }
 
-bool ctlSchedOptions::eventFilter(QObject* watched, QEvent* event)
+void ctlSchedOptions::EnableControls()
 {
-    if (watched != m_form.txtDisplayName)
-        return ToolControl::eventFilter(watched, event);
-    const QPointer<QWidget> alive(this);
-    bool isTaken = false;
-    if (event->type() == QEvent::FocusIn) {
-        Entered([this] { txtDisplayName_GotFocus(); });
-        m_focusedByMouse = static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason;
-    } else if (event->type() == QEvent::KeyPress) {
-        Entered([&] { isTaken = txtDisplayName_KeyPress(static_cast<QKeyEvent*>(event)->key()); });
-    } else if (event->type() == QEvent::MouseButtonRelease && std::exchange(m_focusedByMouse, false)) {
-        // The press that brought the focus has placed the cursor, which ended the selection.
-        if (!m_form.txtDisplayName->hasSelectedText())
-            m_form.txtDisplayName->selectAll();
-    }
-    return isTaken || !alive;
+    const OptionsForm& form = m_rooms->form;
+    const EditorState& state = m_rooms->state;
+    const bool isThere = m_rooms->catalogue.IsThere();
+    const bool hasTemplate = isThere && state.currentTemplate;
+    form.fraTemplate->setEnabled(hasTemplate);
+    form.cboTemplates->setEnabled(isThere && form.cboTemplates->count() > 0);
+    form.cmdSaveAs->setEnabled(hasTemplate);
+    form.cmdDelete->setEnabled(hasTemplate && !state.currentTemplate->Protected());
+    form.cmdApply->setEnabled(hasTemplate && state.IsDirty());
+    EnableMoving();
+}
+
+void ctlSchedOptions::EnableMoving()
+{
+    EnableMoves(*m_rooms->form.lstGroups, m_rooms->form.cmdGroupMove);
+    EnableMoves(*m_rooms->form.lstItems, m_rooms->form.cmdItemMove);
+}
+
+void ctlSchedOptions::TellUnsavedEdits() noexcept
+{
+    const bool now = HasUnsavedEdits();
+    if (std::exchange(m_toldUnsavedEdits, now) != now)
+        IgnoringErrors([this] { Q_EMIT HasUnsavedEditsChanged(); });
+}
+
+void ctlSchedOptions::cmdApply_Click()
+{
+    m_rooms->applying.ApplyChanges();
+}
+
+void ctlSchedOptions::cmdOK_Click()
+{
+    if (m_rooms->applying.ApplyChanges() != kStopped)
+        UnloadUserControl();
+}
+
+void ctlSchedOptions::cmdCancel_Click()
+{
+    UnloadUserControl();
+}
+
+void ctlSchedOptions::cmdSaveAs_Click()
+{
+    m_rooms->savingAs.SaveTemplateAs();
+}
+
+void ctlSchedOptions::UnloadUserControl()
+{
+    Guarded(__func__, [this] {
+        Life().WhileAlive([this] { SendEventToOwner(Event(u"UnloadScheduleOptions", {QStringLiteral("True")})); });
+    });
 }
 
 } // namespace schedules

@@ -1,132 +1,173 @@
 #include "tools/schedule/ctlSchedule.h"
 
-#include "common/CResEnum.h"
 #include "common/StringNumbers.h"
 #include "common/modResource.h"
 #include "controls/desktop/DesktopUserInterface.h"
 #include "controls/grid/SpreadView.h"
-#include "spread/RepaintingOff.h"
-#include "tools/schedule/RowSorting.h"
+#include "tools/schedule/ScheduleRooms.h"
+#include "tools/schedule/bar/GridMenu.h"
 #include "tools/schedule/bar/ScheduleToolbar.h"
-#include "tools/schedule/bar/ScheduleTools.h"
-#include "tools/schedule/edits/CellEditing.h"
+#include "tools/schedule/bar/ViewCommands.h"
+#include "tools/schedule/bar/ViewTools.h"
+#include "tools/schedule/layout/Legend.h"
 
 #include <QAction>
 #include <QCloseEvent>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QPointer>
+#include <QMenu>
 #include <QPushButton>
-#include <QScrollBar>
-#include <QVBoxLayout>
 
 #include <utility>
 
 namespace schedules {
 
-namespace {
-
-// The orientation in which a table is shown first.
-constexpr int kOfSchedule = 0;
-constexpr int kOfTags = 1;
-
-constexpr auto kRowsLegend = "Note: the first data row contains selection requirements only.";
-constexpr auto kColumnsLegend = "Note: the first data column contains selection requirements only.";
-
-template <class Widget, class... Arguments>
-Widget* Named(const char* name, Arguments&&... arguments)
-{
-    auto* widget = new Widget(std::forward<Arguments>(arguments)...);
-    widget->setObjectName(QLatin1String(name));
-    return widget;
-}
-
-} // namespace
-
 ctlSchedule::ctlSchedule(UserInterface* userInterface)
     : ToolControl("ctlSchedule", userInterface),
-      m_engine(userInterface ? *userInterface : Own(std::make_unique<DesktopUserInterface>(this)))
+      m_link(MakeLink(userInterface)),
+      m_layout(*this),
+      m_rooms(std::make_unique<ScheduleRooms>(m_link, m_settings, *m_layout.grid)),
+      m_commands(std::make_unique<ViewCommands>(m_link, m_settings, *m_rooms)),
+      m_menu(std::make_unique<GridMenu>(m_link, m_settings, m_rooms->table, m_rooms->picking, m_rooms->sorting,
+                                        *m_commands))
 {
-    BuildControls();
-    BuildLayout();
     ConnectControls();
+    ConnectProperties();
     TraceProcedure("UserControl_Initialize");
 }
 
 ctlSchedule::~ctlSchedule()
 {
     Disconnect();
-    m_editing.reset();
-    m_spread->disconnect(this);
-    m_spread->SetSheet(nullptr);
-    m_engine.SetSched(nullptr);
-    m_sheet = nullptr;
+    m_layout.grid->disconnect(this);
+    m_menu.reset();
+    m_commands.reset();
+    m_rooms.reset();
     TraceProcedure("UserControl_Terminate");
 }
 
-void ctlSchedule::BuildControls()
+ViewLink ctlSchedule::MakeLink(UserInterface* userInterface)
 {
-    m_sheet = new Sheet(this);
-    m_exported = Named<Sheet>("vaSpread2", this);
-    m_customMessage = new CustomMessage(this);
-    m_toolbar = new ScheduleToolbar(this);
-    BuildGrid();
-    m_legend = Named<QLabel>("lblLegend", this);
-    m_legend->setWordWrap(true);
-    m_legend->hide();
-    m_continue = Named<QPushButton>("cmdContinue", QStringLiteral("Continue"), this);
-    m_continue->hide();
-    m_cancel = Named<QPushButton>("cmdCancel", QStringLiteral("Cancel"), this);
-}
-
-void ctlSchedule::BuildGrid()
-{
-    m_spread = Named<SpreadView>("vaSpread1", this);
-    m_spread->SetSheet(m_sheet);
-    m_spread->setContextMenuPolicy(Qt::CustomContextMenu);
-    m_engine.SetSched(m_sheet);
-    m_editing = std::make_unique<CellEditing>(*m_spread, m_engine, [this](Cell cell) { return MayEdit(cell); });
-    m_sorting = std::make_unique<RowSorting>(*m_spread);
-    setFocusProxy(m_spread);
-}
-
-void ctlSchedule::BuildLayout()
-{
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(m_continue);
-    buttons->addWidget(m_cancel);
-
-    auto* view = new QVBoxLayout(this);
-    view->addWidget(m_customMessage);
-    view->addWidget(m_toolbar);
-    view->addWidget(m_spread, 1);
-    view->addWidget(m_legend);
-    view->addLayout(buttons);
+    return {.view = *this,
+            .user = userInterface ? *userInterface : Own(std::make_unique<DesktopUserInterface>(this)),
+            .event = [this](QStringView name, ViewLink::Values values) { SendEventToOwner(Event(name, values)); },
+            .request =
+                [this](QStringView name, ViewLink::Values values) {
+                    const PointerReset reset(*this);
+                    Ui().SetPointer(Pointer::Hourglass);
+                    SendRequestToOwner(Request(name, values));
+                },
+            .tellingHost = [this](const char* procedure, const ViewLink::Body& body) { TellingHost(procedure, body); },
+            .tellingUser = [this](const char* procedure, const ViewLink::Body& body) { TellingUser(procedure, body); }};
 }
 
 void ctlSchedule::ConnectControls()
 {
-    connect(m_toolbar, &ScheduleToolbar::ViewToolClicked, this, &ctlSchedule::ab_ToolClick);
-    connect(m_toolbar, &ScheduleToolbar::HostToolClicked, this, [this](const QString& owner, const QString& key) {
-        BeginCommand();
-        Q_EMIT HostToolClicked(owner, key);
+    connect(m_layout.toolbar, &ScheduleToolbar::ViewToolClicked, this, &ctlSchedule::ab_ToolClick);
+    connect(m_layout.toolbar, &ScheduleToolbar::HostToolClicked, this,
+            [this](const QString& owner, const QString& key) {
+                m_commands->Begin();
+                Q_EMIT HostToolClicked(owner, key);
+            });
+    connect(m_layout.toolbar, &ScheduleToolbar::EntryChosen, this, [this](const QString& entry) {
+        TellingUser("mnuExport_Click", [&] {
+            m_commands->Begin();
+            m_rooms->exports.ExportBy(entry);
+        });
     });
-    connect(m_continue, &QPushButton::clicked, this, &ctlSchedule::cmdContinue_Click);
-    connect(m_cancel, &QPushButton::clicked, this, &ctlSchedule::cmdCancel_Click);
-    connect(m_spread, &QWidget::customContextMenuRequested, this, &ctlSchedule::ShowContextMenu);
-    connect(m_editing.get(), &CellEditing::Changed, this, &ctlSchedule::ChangeCell);
-    connect(m_editing.get(), &CellEditing::Refused, this, [this] { IgnoringErrors([this] { Ui().Beep(); }); });
-    ConnectCheckBoxes();
+    connect(m_layout.continueButton, &QPushButton::clicked, this, &ctlSchedule::cmdContinue_Click);
+    connect(m_layout.closeButton, &QPushButton::clicked, this, &ctlSchedule::cmdCancel_Click);
+    connect(m_layout.grid, &QWidget::customContextMenuRequested, this, [this](QPoint point) {
+        TellingUser("ShowContextMenu", [&] {
+            m_commands->Begin();
+            m_menu->Open(point);
+        });
+    });
+    connect(&m_rooms->editing, &CellEditing::Refused, this, [this] { IgnoringErrors([this] { Ui().Beep(); }); });
+    connect(&m_rooms->table, &ShownTable::Loaded, m_layout.legend, [this] { m_layout.legend->Follow(m_rooms->table); });
+}
+
+void ctlSchedule::ConnectProperties()
+{
+    connect(&m_rooms->table, &ShownTable::FrozenChanged, this, &ctlSchedule::FrozenChanged);
+    connect(&m_rooms->table, &ShownTable::OrientationChanged, this, &ctlSchedule::OrientationChanged);
+    connect(&m_rooms->table, &ShownTable::SheetChanged, this, &ctlSchedule::SheetChanged);
+    connect(m_rooms->table.Shown(), &Sheet::ActiveCellChanged, this, &ctlSchedule::FollowActiveCell);
+    connect(&m_rooms->edits, &EditSession::TagDataDirtyChanged, this, &ctlSchedule::TagDataDirtyChanged);
+    connect(&m_rooms->edits, &EditSession::TagDataDirtyChanged, this, &ctlSchedule::FollowEdits);
+    connect(&m_rooms->editing, &CellEditing::OpenChangeChanged, this, &ctlSchedule::FollowEdits);
+    connect(&m_rooms->edits, &EditSession::ValueEdited, this,
+            [this](const QString& tag, const QString& item, const QString& former, const QString& now) {
+                m_commands->Closing().SetInUse();
+                Q_EMIT ValueEdited(tag, item, former, now);
+            });
+}
+
+void ctlSchedule::FollowEdits()
+{
+    const bool hasUnsavedEdits = HasUnsavedEdits();
+    if (QAction* save = m_layout.toolbar->Tool(QStringLiteral("btnSaveTag")))
+        save->setEnabled(hasUnsavedEdits);
+    if (std::exchange(m_hadUnsavedEdits, hasUnsavedEdits) != hasUnsavedEdits)
+        Q_EMIT HasUnsavedEditsChanged();
+}
+
+void ctlSchedule::FollowActiveCell()
+{
+    const Sheet* sheet = m_rooms->table.Shown();
+    const bool isData = sheet && sheet->ActiveCell().column >= Column(1) && sheet->ActiveCell().row >= Row(1);
+    const auto [tag, item] =
+        isData ? m_rooms->table.HeadersOf(sheet->TablePlaceOf(sheet->ActiveCell())) : ShownTable::Headers();
+    Q_EMIT ActiveCellChanged(tag, item);
+}
+
+void ctlSchedule::InitializeControls()
+{
+    if (std::exchange(m_initialised, true))
+        return;
+    TraceProcedure(__func__);
+    for (const ViewTool& tool : ViewToolsOf(m_settings)) {
+        AddToolbarButton(QLatin1String(tool.key), tool.image, QLatin1String(tool.caption), LoadResString(tool.tooltip),
+                         true);
+    }
+    BuildExportMenu();
+    m_layout.toolbar->setAccessibleName(ComponentText(QT_TRANSLATE_NOOP("Schedules", "Toolbar")));
+    m_layout.message->Show(m_settings.message);
+}
+
+void ctlSchedule::AddToolbarButton(const QString& key, int image, const QString& caption, const QString& tooltip,
+                                   bool visible)
+{
+    TellingUser(__func__, [&] {
+        m_layout.toolbar->AddViewTool({TypeName(), key, image, caption, tooltip, visible, ToolKind::Button});
+        m_layout.toolbar->updateGeometry();
+        m_layout.toolbar->update();
+    });
+}
+
+void ctlSchedule::BuildExportMenu()
+{
+    auto* menu = new QMenu(LoadResString(kExportCaption), this);
+    menu->setObjectName(QStringLiteral("mnuExport"));
+    for (const ExportFormat& format : ExportFormats()) {
+        if (format.entry)
+            m_layout.toolbar->AddEntry(menu, QLatin1String(format.entry), LoadResString(format.caption));
+    }
+    m_layout.toolbar->AddDropDown(QStringLiteral("btnExport"), menu);
 }
 
 /// Closing the window that is this view is what its last button does.
 void ctlSchedule::closeEvent(QCloseEvent* event)
 {
     const QPointer<ctlSchedule> alive(this);
-    if (!m_unloaded && IsConnected())
+    if (!m_commands->Closing().IsUnloaded() && IsConnected())
         cmdCancel_Click();
-    event->setAccepted(!alive || m_unloaded || !IsConnected());
+    event->setAccepted(!alive || m_commands->Closing().IsUnloaded() || !IsConnected());
+}
+
+/// The grid is what a host means that gives the view the focus. It is no proxy: Tab, which comes from somewhere else,
+/// would pass over the tool bar then.
+void ctlSchedule::focusInEvent(QFocusEvent* event)
+{
+    m_layout.grid->setFocus(event->reason());
 }
 
 void ctlSchedule::resizeEvent(QResizeEvent* event)
@@ -137,18 +178,7 @@ void ctlSchedule::resizeEvent(QResizeEvent* event)
 
 void ctlSchedule::ResizeUserControl()
 {
-    // A long message scrolls; the grid is what the view is for.
-    TellingHost(__func__, [this] { m_customMessage->setMaximumHeight(height() / 3); });
-}
-
-bool ctlSchedule::IsScheduleView() const
-{
-    return m_viewType == static_cast<int>(CResEnum::eViewType::vtSCHEDULE_VIEW);
-}
-
-bool ctlSchedule::IsSelectorView() const
-{
-    return m_viewType == static_cast<int>(CResEnum::eViewType::vtSELECTOR_VIEW);
+    TellingHost(__func__, [this] { m_layout.FollowHeight(height()); });
 }
 
 void ctlSchedule::IToolUI_Initialize(IMsgRouter* msgRouter, const QString& sOwner)
@@ -158,106 +188,37 @@ void ctlSchedule::IToolUI_Initialize(IMsgRouter* msgRouter, const QString& sOwne
 
 void ctlSchedule::IToolUI_XML(const QString& sData)
 {
-    m_held.Hold(sData);
-    m_xmlIsNew = true;
-    m_unloaded = false;
+    m_commands->Closing().SetInUse();
+    m_rooms->edits.HandOver(sData);
+    IgnoringErrors([this] { m_rooms->editing.LookAtDocument(); });
 }
 
 void ctlSchedule::IToolUI_Activate()
 {
     TellingUser(__func__, [this] {
         TraceProcedure("IToolUI_Activate");
-        Activate();
+        m_commands->Begin();
+        m_layout.ShowCommandButtons(m_settings.IsSelectorView());
+        if (!m_rooms->showing.Activate())
+            return;
+        InitializeControls();
+        IgnoringErrors([this] { FollowEdits(); });
     });
 }
 
 void ctlSchedule::IToolUI_Deactivate([[maybe_unused]] bool bCancel)
 {
     TraceProcedure(__func__);
-    m_editing->CommitCellEdit();
-}
-
-void ctlSchedule::Activate()
-{
-    BeginCommand();
-    ShowCommandButtons();
-    StartNormalLayout(IsSelectorView() ? kOfTags : kOfSchedule);
-    // Fresh text that has been edited since it came is not left behind by its own activation.
-    if (std::exchange(m_xmlIsNew, false) && m_held.Unsaved().empty())
-        LeaveFormerXml();
-    if (!ShowHeldXml())
-        return;
-    InitializeControls();
-    IgnoringErrors([this] { FollowTagDataDirty(); });
-}
-
-void ctlSchedule::StartNormalLayout(int orientation)
-{
-    m_engine.SetSchedOrientation(orientation);
-    m_engine.SetTransposeData(false);
-    FreezeRows(m_rowsFrozenByHost);
-    FreezeColumns(m_colsFrozenByHost);
-}
-
-bool ctlSchedule::ShowHeldXml()
-{
-    if (IsSelectorView() ? LoadSelection() : LoadSchedule())
-        return true;
-    ShowBox(IsSelectorView() ? kSelectionNotShown : kScheduleNotShown);
-    return false;
-}
-
-/// The edits are gone with their document, and the new one is shown from its start.
-void ctlSchedule::LeaveFormerXml()
-{
-    SetTagDataDirty(false);
-    m_spread->horizontalScrollBar()->setValue(0);
-    m_spread->verticalScrollBar()->setValue(0);
-}
-
-bool ctlSchedule::LoadSchedule()
-{
-    m_showsTags = false;
-    m_legend->hide();
-    return Load([this](const QString& xml) { return m_engine.LoadScheduleData(xml); });
-}
-
-bool ctlSchedule::LoadSelection()
-{
-    m_showsTags = Load([this](const QString& xml) {
-        return m_engine.SchedInitialize() && m_engine.LoadSelectionData(xml, m_selectAllTags);
-    });
-    if (m_showsTags)
-        UpdateLegend();
-    return m_showsTags;
-}
-
-bool ctlSchedule::Load(const std::function<bool(const QString& xml)>& fill)
-{
-    m_sheet = m_engine.Sched();
-    const RepaintingOff off(*m_sheet);
-    m_held.Settle();
-    m_spread->ShowEditable(IsScheduleView());
-    const QPointer<QWidget> alive(this); // a host may delete the view while it shows a message
-    const bool loaded = fill(m_held.Text());
-    RequireAlive(alive);
-    m_editing->ForgetTable();
-    m_sorting->Forget();
-    MarkUnsaved();
-    return loaded;
+    CommitEdit();
 }
 
 bool ctlSchedule::LoadScheduleData(const QString& sData)
 {
     bool loaded = false;
     TellingUser(__func__, [&] {
-        m_continue->hide();
-        BeginCommand();
-        StartNormalLayout(kOfSchedule);
-        HoldNewXml(sData);
-        loaded = LoadSchedule();
-        if (!loaded)
-            ShowBox(kScheduleNotLoadable);
+        m_layout.continueButton->hide();
+        m_commands->Begin();
+        loaded = m_rooms->showing.LoadScheduleData(sData);
     });
     return loaded;
 }
@@ -266,83 +227,232 @@ bool ctlSchedule::LoadSelectionData(const QString& sData)
 {
     bool loaded = false;
     TellingUser(__func__, [&] {
-        m_continue->show();
-        BeginCommand();
-        StartNormalLayout(kOfTags);
-        HoldNewXml(sData);
-        loaded = LoadSelection();
-        if (!loaded)
-            ShowBox(kSelectionNotLoadable);
+        m_layout.continueButton->show();
+        m_commands->Begin();
+        loaded = m_rooms->showing.LoadSelectionData(sData);
     });
     return loaded;
 }
 
-void ctlSchedule::HoldNewXml(const QString& xml)
+int ctlSchedule::GetUniqueToolID()
 {
-    m_held.Hold(xml);
-    m_xmlIsNew = false;
-    LeaveFormerXml();
+    int identifier = 0;
+    TellingHost(__func__, [&] { identifier = m_toolIdentifiers.Next(); });
+    return identifier;
 }
 
-void ctlSchedule::ShowBox(int textNumber)
+void ctlSchedule::AddMenu(const QString& sOwner, const QString& sKey, int lImage, const QString& sText,
+                          const QString& sToolTipText, bool bVisible, int lToolType)
 {
-    Ui().Show({LoadResString(textNumber), kOkOnly, {}, textNumber});
-}
-
-void ctlSchedule::UpdateLegend()
-{
-    if (m_rowsFrozen != 0)
-        m_legend->setText(QLatin1String(kRowsLegend));
-    else if (m_colsFrozen != 0)
-        m_legend->setText(QLatin1String(kColumnsLegend));
-    m_legend->setVisible(m_rowsFrozen != 0 || m_colsFrozen != 0);
-}
-
-void ctlSchedule::SetRowsFrozen(int count)
-{
-    m_rowsFrozenByHost = count;
-    FreezeRows(count);
-    FollowFrozenCounts();
-}
-
-void ctlSchedule::SetColsFrozen(int count)
-{
-    m_colsFrozenByHost = count;
-    FreezeColumns(count);
-    FollowFrozenCounts();
-}
-
-void ctlSchedule::FollowFrozenCounts()
-{
-    if (m_showsTags || (m_rowsFrozen == 0 && m_colsFrozen == 0))
-        UpdateLegend();
-}
-
-void ctlSchedule::FreezeRows(int count)
-{
-    m_rowsFrozen = count;
-    IgnoringErrors([&] { m_engine.Sched()->SetFrozenRows(count); });
-}
-
-void ctlSchedule::FreezeColumns(int count)
-{
-    m_colsFrozen = count;
-    IgnoringErrors([&] { m_engine.Sched()->SetFrozenColumns(count); });
+    TellingUser(__func__, [&] {
+        // The view's own tools may not be there yet, but their keys are taken.
+        if (CommandOfKey(sKey))
+            return;
+        m_layout.toolbar->AddHostTool(
+            {sOwner, sKey, lImage, sText, sToolTipText, bVisible, static_cast<ToolKind>(lToolType)});
+    });
 }
 
 void ctlSchedule::CleanUP()
 {
     TellingHost(__func__, [this] {
-        BeginCommand();
-        Sheet* const sheet = std::exchange(m_sheet, nullptr);
-        if (!sheet)
-            return;
-        m_showsTags = false;
-        m_legend->hide();
-        m_sorting->Forget();
-        sheet->Reset();
-        sheet->SetSize(0, 0);
+        m_commands->Begin();
+        if (m_rooms->table.Shown())
+            m_rooms->sorting.Forget();
+        m_rooms->table.CleanUp();
     });
+}
+
+void ctlSchedule::DoColSort()
+{
+    TellingUser(__func__, [this] {
+        m_commands->Begin();
+        m_commands->DoColSort();
+    });
+}
+
+void ctlSchedule::ab_ToolClick(const QString& key)
+{
+    TellingUser(__func__, [&] {
+        m_commands->Begin();
+        if (const auto command = CommandOfKey(key))
+            m_commands->Do(*command);
+    });
+}
+
+void ctlSchedule::cmdContinue_Click()
+{
+    TellingHost(__func__, [this] {
+        m_commands->Begin();
+        m_commands->Do(ViewCommand::Continue);
+    });
+}
+
+void ctlSchedule::cmdCancel_Click()
+{
+    TellingUser(__func__, [this] {
+        if (m_commands->Closing().IsUnderWay())
+            return; // the host pumps events while it saves
+        m_commands->Begin();
+        m_commands->Do(ViewCommand::Close);
+    });
+}
+
+QString ctlSchedule::WriteFile(const QString& format, const QString& fileName)
+{
+    m_commands->Begin();
+    return m_rooms->exports.WriteFile(format, fileName);
+}
+
+QString ctlSchedule::WritePdf(const QString& fileName, bool smart, int pageSize)
+{
+    return WritePdf(fileName, PaperOptions{smart, pageSize});
+}
+
+QString ctlSchedule::WritePdf(const QString& fileName, const PaperOptions& options)
+{
+    m_commands->Begin();
+    return m_rooms->printing.WritePdf(fileName, options);
+}
+
+void ctlSchedule::CommitEdit()
+{
+    m_rooms->editing.CommitCellEdit();
+}
+
+bool ctlSchedule::IsEditing() const
+{
+    return m_rooms->editing.IsEditing();
+}
+
+bool ctlSchedule::CanDo(ViewCommand command) const
+{
+    if (command == ViewCommand::Close)
+        return m_layout.closeButton->isEnabled();
+    if (!m_initialised || !m_commands->Has(command))
+        return false;
+    return command != ViewCommand::Save || HasUnsavedEdits();
+}
+
+bool ctlSchedule::Do(ViewCommand command)
+{
+    if (command == ViewCommand::Close) {
+        cmdCancel_Click();
+        return true;
+    }
+    if (!m_initialised || !m_commands->Has(command))
+        return false;
+    if (command == ViewCommand::Continue)
+        cmdContinue_Click();
+    else
+        TellingUser("ab_ToolClick", [&] {
+            m_commands->Begin();
+            m_commands->Do(command);
+        });
+    return true;
+}
+
+Entry ctlSchedule::EnterText(GridPlace place, const QString& text)
+{
+    auto entry = Entry::NotEditable;
+    TellingUser(__func__, [&] {
+        m_commands->Begin();
+        entry = m_commands->EnterText({Column(place.column), Row(place.row)}, text);
+    });
+    return entry;
+}
+
+bool ctlSchedule::TickTag(const QString& identifier)
+{
+    bool isTicked = false;
+    TellingUser(__func__, [&] {
+        m_commands->Begin();
+        isTicked = m_rooms->picking.TickTag(identifier);
+    });
+    return isTicked;
+}
+
+bool ctlSchedule::SortBy(int column, bool descending)
+{
+    bool isSorted = false;
+    TellingUser(__func__, [&] {
+        m_commands->Begin();
+        isSorted = m_commands->SortBy(Column(column), descending ? RowOrder::Descending : RowOrder::Ascending);
+    });
+    return isSorted;
+}
+
+std::optional<GridPlace> ctlSchedule::FindCell(const QString& tag, const QString& item) const
+{
+    const auto cell = m_rooms->table.Find({tag, item});
+    return cell ? std::optional(GridPlace{cell->column.Value(), cell->row.Value()}) : std::nullopt;
+}
+
+bool ctlSchedule::ShowCell(const QString& tag, const QString& item)
+{
+    bool isShown = false;
+    TellingUser(__func__, [&] {
+        m_commands->Begin();
+        isShown = m_rooms->table.Show({tag, item});
+    });
+    return isShown;
+}
+
+QList<ChangedCell> ctlSchedule::ChangedCells() const
+{
+    return m_rooms->edits.ChangedCells();
+}
+
+int ctlSchedule::RowsFrozen() const
+{
+    return m_rooms->table.RowsFrozen();
+}
+
+void ctlSchedule::SetRowsFrozen(int count)
+{
+    m_rooms->table.SetRowsFrozen(count);
+    m_layout.legend->Follow(m_rooms->table);
+}
+
+int ctlSchedule::ColsFrozen() const
+{
+    return m_rooms->table.ColsFrozen();
+}
+
+void ctlSchedule::SetColsFrozen(int count)
+{
+    m_rooms->table.SetColsFrozen(count);
+    m_layout.legend->Follow(m_rooms->table);
+}
+
+bool ctlSchedule::TagDataDirty() const
+{
+    return m_rooms->edits.TagDataDirty();
+}
+
+void ctlSchedule::SetTagDataDirty(bool dirty)
+{
+    m_rooms->edits.SetTagDataDirty(dirty);
+}
+
+bool ctlSchedule::HasUnsavedEdits() const
+{
+    return TagDataDirty() || m_rooms->editing.HasOpenChange();
+}
+
+int ctlSchedule::SchedOrientation() const
+{
+    return m_rooms->table.Engine().SchedOrientation();
+}
+
+bool ctlSchedule::TransposeData() const
+{
+    return m_rooms->table.Engine().TransposeData();
+}
+
+Sheet* ctlSchedule::ShownSheet() const
+{
+    return m_rooms->table.Shown();
 }
 
 } // namespace schedules

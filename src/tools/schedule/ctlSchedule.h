@@ -1,59 +1,54 @@
 #pragma once
 
-#include "grid/CSchedule.h"
+#include "framework/IScheduleView.h"
 #include "spread/Sheet.h"
 #include "tools/ToolControl.h"
-#include "tools/schedule/CustomMessage.h"
+#include "tools/schedule/ViewLink.h"
+#include "tools/schedule/ViewSettings.h"
 #include "tools/schedule/bar/ToolIdentifiers.h"
-#include "tools/schedule/edits/HeldDocument.h"
-#include "tools/schedule/picking/TagTable.h"
-
-class QLabel;
-class QMenu;
-class QPageSize;
-class QPushButton;
+#include "tools/schedule/layout/ScheduleLayout.h"
 
 namespace schedules {
 
-class CellEditing;
-struct PrintJob;
-class RowSorting;
-class ScheduleToolbar;
-class SpreadView;
+class GridMenu;
+class ViewCommands;
+struct ScheduleRooms;
 
 /// The schedule view: shows a schedule, or a table of tags to select from, in a grid with a tool bar.
 ///
-/// A host sets the properties, then drives the view through `IToolUI`. `ShowPrintButtonOnUnitSelector` and the
-/// properties whose names begin with `CustomMsg` are meant to be set only; reading them gives what was set. They and
-/// `ViewType`, `BuilderPdsg` and `SelectAllTags` are stored and take effect where they are used next.
-class ctlSchedule : public ToolControl
+/// A host sets the properties, then drives the view through `IToolUI`, and, beside it, through `IScheduleView`.
+/// `ShowPrintButtonOnUnitSelector` and the properties whose names begin with `CustomMsg` are meant to be set only;
+/// reading them gives what was set. They and `ViewType`, `BuilderPdsg` and `SelectAllTags` are stored and take effect
+/// where they are used next.
+class ctlSchedule : public ToolControl, public IScheduleView
 {
     Q_OBJECT
+    Q_INTERFACES(schedules::IScheduleView)
 
     /// Passed back to the host with what the view sends.
-    Q_PROPERTY(QString BuilderPdsg MEMBER m_builderPdsg)
+    Q_PROPERTY(QString BuilderPdsg READ BuilderPdsg WRITE SetBuilderPdsg)
     /// A number of `CResEnum::eViewType`; any other shows a schedule without tools.
-    Q_PROPERTY(int ViewType MEMBER m_viewType)
-    Q_PROPERTY(bool ShowPrintButtonOnUnitSelector MEMBER m_printsSelections)
-    Q_PROPERTY(QString CustomMsg MEMBER m_customText)
-    Q_PROPERTY(bool CustomMsgBold MEMBER m_customBold)
-    Q_PROPERTY(bool CustomMsgItalic MEMBER m_customItalic)
+    Q_PROPERTY(int ViewType READ ViewType WRITE SetViewType)
+    Q_PROPERTY(bool ShowPrintButtonOnUnitSelector READ PrintsSelections WRITE SetPrintsSelections)
+    Q_PROPERTY(QString CustomMsg READ CustomMsg WRITE SetCustomMsg)
+    Q_PROPERTY(bool CustomMsgBold READ CustomMsgBold WRITE SetCustomMsgBold)
+    Q_PROPERTY(bool CustomMsgItalic READ CustomMsgItalic WRITE SetCustomMsgItalic)
     /// 0 left, 1 right, 2 centre.
-    Q_PROPERTY(int CustomMsgAlignment MEMBER m_customAlignment)
+    Q_PROPERTY(int CustomMsgAlignment READ CustomMsgAlignment WRITE SetCustomMsgAlignment)
     /// Rows and columns that do not scroll. Setting them acts on the grid at once; Transpose exchanges the two, and
     /// the next activation goes back to what was set.
-    Q_PROPERTY(int RowsFrozen READ RowsFrozen WRITE SetRowsFrozen)
-    Q_PROPERTY(int ColsFrozen READ ColsFrozen WRITE SetColsFrozen)
-    Q_PROPERTY(bool SelectAllTags MEMBER m_selectAllTags)
+    Q_PROPERTY(int RowsFrozen READ RowsFrozen WRITE SetRowsFrozen NOTIFY FrozenChanged)
+    Q_PROPERTY(int ColsFrozen READ ColsFrozen WRITE SetColsFrozen NOTIFY FrozenChanged)
+    Q_PROPERTY(bool SelectAllTags READ SelectAllTags WRITE SetSelectAllTags)
     /// Whether there are edited values that have not been saved.
-    Q_PROPERTY(bool TagDataDirty READ TagDataDirty)
-    /// The same, under the name that every tool has it.
-    Q_PROPERTY(bool HasUnsavedEdits READ TagDataDirty)
+    Q_PROPERTY(bool TagDataDirty READ TagDataDirty NOTIFY TagDataDirtyChanged)
+    /// The same, and true as well while the text of an open edit differs from its cell.
+    Q_PROPERTY(bool HasUnsavedEdits READ HasUnsavedEdits NOTIFY HasUnsavedEditsChanged)
     /// How the grid is laid out now, see `CSchedule`.
-    Q_PROPERTY(int SchedOrientation READ SchedOrientation)
-    Q_PROPERTY(bool TransposeData READ TransposeData)
+    Q_PROPERTY(int SchedOrientation READ SchedOrientation NOTIFY OrientationChanged)
+    Q_PROPERTY(bool TransposeData READ TransposeData NOTIFY OrientationChanged)
     /// What the grid shows; null after `CleanUP`. The style of a cell says whether it was edited and not saved.
-    Q_PROPERTY(schedules::Sheet* sheet READ ShownSheet)
+    Q_PROPERTY(schedules::Sheet* sheet READ ShownSheet NOTIFY SheetChanged)
 
 public:
     /// Without a user interface the desktop's is used; one that is given must outlive the view.
@@ -86,172 +81,96 @@ public:
     /// the table are shown as columns.
     Q_INVOKABLE void DoColSort();
 
-    /// Writes what the grid shows into a file: an Excel 97 workbook ("xls"), an Office Open XML one ("xlsx"),
-    /// comma-separated values ("csv") or a web page ("html"). Returns what went wrong, an empty text when it is done.
-    Q_INVOKABLE QString WriteFile(const QString& format, const QString& fileName);
-
-    /// Prints the grid into a PDF file, fitted to pages or at full size; `pageSize` is a `QPageSize::PageSizeId`.
-    /// Returns what went wrong, an empty text when it is done.
+    /// See `IScheduleView`.
+    Q_INVOKABLE QString WriteFile(const QString& format, const QString& fileName) override;
     Q_INVOKABLE QString WritePdf(const QString& fileName, bool smart, int pageSize);
 
     /// Does what the tool of that key does, enabled or not; nothing for a key that is none of the view's.
     Q_INVOKABLE void ab_ToolClick(const QString& key);
 
-    int RowsFrozen() const { return m_rowsFrozen; }
+    void CommitEdit() override;
+    bool IsEditing() const override;
+    bool CanDo(ViewCommand command) const override;
+    bool Do(ViewCommand command) override;
+    Entry EnterText(GridPlace place, const QString& text) override;
+    bool TickTag(const QString& identifier) override;
+    bool SortBy(int column, bool descending) override;
+    std::optional<GridPlace> FindCell(const QString& tag, const QString& item) const override;
+    bool ShowCell(const QString& tag, const QString& item) override;
+    QList<ChangedCell> ChangedCells() const override;
+    QString WritePdf(const QString& fileName, const PaperOptions& options) override;
+
+    QString BuilderPdsg() const { return m_settings.builderPdsg; }
+    void SetBuilderPdsg(const QString& pdsg) { m_settings.builderPdsg = pdsg; }
+    int ViewType() const { return m_settings.viewType; }
+    void SetViewType(int type) { m_settings.viewType = type; }
+    bool PrintsSelections() const { return m_settings.printsSelections; }
+    void SetPrintsSelections(bool prints) { m_settings.printsSelections = prints; }
+    bool SelectAllTags() const { return m_settings.selectAllTags; }
+    void SetSelectAllTags(bool select) { m_settings.selectAllTags = select; }
+    QString CustomMsg() const { return m_settings.message.text; }
+    void SetCustomMsg(const QString& text) { m_settings.message.text = text; }
+    bool CustomMsgBold() const { return m_settings.message.bold; }
+    void SetCustomMsgBold(bool bold) { m_settings.message.bold = bold; }
+    bool CustomMsgItalic() const { return m_settings.message.italic; }
+    void SetCustomMsgItalic(bool italic) { m_settings.message.italic = italic; }
+    int CustomMsgAlignment() const { return m_settings.message.alignment; }
+    void SetCustomMsgAlignment(int alignment) { m_settings.message.alignment = alignment; }
+    int RowsFrozen() const;
     void SetRowsFrozen(int count);
-    int ColsFrozen() const { return m_colsFrozen; }
+    int ColsFrozen() const;
     void SetColsFrozen(int count);
-    bool TagDataDirty() const { return m_engine.TagDataDirty(); }
-    int SchedOrientation() const { return m_engine.SchedOrientation(); }
-    bool TransposeData() const { return m_engine.TransposeData(); }
-    Sheet* ShownSheet() const { return m_sheet; }
+    bool TagDataDirty() const;
+    bool HasUnsavedEdits() const;
+    int SchedOrientation() const;
+    bool TransposeData() const;
+    Sheet* ShownSheet() const;
 
 Q_SIGNALS:
     /// A tool that the host added was clicked.
     void HostToolClicked(const QString& owner, const QString& key);
 
+    /// A value was edited: by the texts of its headers (see `ChangedCell`), from the text before to the one now.
+    void ValueEdited(const QString& tag, const QString& item, const QString& former, const QString& now);
+
+    /// Another cell is the active one; empty texts when it is no data cell.
+    void ActiveCellChanged(const QString& tag, const QString& item);
+
+    void FrozenChanged();
+    void TagDataDirtyChanged();
+    void HasUnsavedEditsChanged();
+    void OrientationChanged();
+    void SheetChanged();
+
 protected:
-    /// Sets whether there are edited values; the Save tool is enabled as long as there are.
     void SetTagDataDirty(bool dirty);
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    using Command = void (ctlSchedule::*)();
-
-    void BuildControls();
-    void BuildGrid();
-    void BuildLayout();
+    ViewLink MakeLink(UserInterface* userInterface);
     void ConnectControls();
-    void ResizeUserControl();
-
-    bool IsScheduleView() const;
-    bool IsSelectorView() const;
-
-    // Showing the held document.
-    void Activate();
-    void StartNormalLayout(int orientation);
-    bool ShowHeldXml();
-    bool LoadSchedule();
-    bool LoadSelection();
-    bool Load(const std::function<bool(const QString& xml)>& fill);
-    void LeaveFormerXml();
-    void HoldNewXml(const QString& xml);
-    void ShowBox(int textNumber);
-    void UpdateLegend();
-    void FollowFrozenCounts();
-    void FreezeRows(int count);
-    void FreezeColumns(int count);
-
-    // The controls around the grid.
+    void ConnectProperties();
     void InitializeControls();
     void AddToolbarButton(const QString& key, int image, const QString& caption, const QString& tooltip, bool visible);
     void BuildExportMenu();
-    void AddExport(const char* name, int caption);
-    void ShowCommandButtons();
-    void ShowCustomMessage();
-    void FollowTagDataDirty();
-
-    // Edited values.
-    bool MayEdit(Cell cell) const;
-    void ChangeCell(Cell cell, const QString& text);
-    void SetEdited(Cell cell, bool edited);
-    void MarkUnsaved();
-
-    /// What has been edited and not saved, while a save is under way.
-    struct UnsavedEdits
-    {
-        int document; ///< `HeldDocument::Number`
-        bool dirty;
-        std::set<Sheet::TablePlace> places;
-        std::vector<Sheet::TablePlace> marked; ///< these, and cells without an element
-    };
-    UnsavedEdits TakeUnsaved();
-    void PutBack(const UnsavedEdits& unsaved);
-
-    // Check boxes and the selection of tags.
-    enum class Ticking
-    {
-        All,
-        None,
-        Invert
-    };
-
-    void ConnectCheckBoxes();
-    bool Toggles(Cell cell) const;
-    void SetTicked(Cell cell, bool ticked);
-    void ToggleCheckBox(Cell cell);
-    bool PressSpace(bool isHeldDown);
-    void StartSweep(Cell cell);
-    void Sweep(Cell cell);
-    void TickVisible(Ticking ticking);
-    SelectedTags GetSelectedTags() const;
+    void ResizeUserControl();
+    void FollowEdits();
+    void FollowActiveCell();
     void cmdContinue_Click();
-    void PrintSelections();
-
-    // The grid's menu.
-    bool Sortable() const;
-    void ShowContextMenu(QPoint point);
-    void FillContextMenu(QMenu& menu);
-
-    // Commands.
-    static Command CommandOf(const QString& key);
-    void BeginCommand();
-    void Transpose();
-    void Print();
-    void Customize();
-    void Help();
-    void Save();
-    void SendEdits();
-    void UpdateTagScheduleData();
-    void ExportShown();
-    void ExportToExcel(const Sheet& source, Sheet& target);
-    void ExportToHTML();
-    void WriteHtml(const QString& fileName) const;
-    void PrintSchedule();
-    std::optional<PrintJob> JobOf(const QPageSize& paper, PrintAction action);
     void cmdCancel_Click();
-    bool MayUnload();
-    void Unload();
 
-    CSchedule m_engine;
+    ViewSettings m_settings;
+    ViewLink m_link;
+    ScheduleLayout m_layout;
     ToolIdentifiers m_toolIdentifiers;
-
-    CustomMessage* m_customMessage = nullptr;
-    ScheduleToolbar* m_toolbar = nullptr;
-    SpreadView* m_spread = nullptr;
-    QMenu* m_exportMenu = nullptr;
-    QLabel* m_legend = nullptr;
-    QPushButton* m_continue = nullptr;
-    QPushButton* m_cancel = nullptr;
-    Sheet* m_sheet = nullptr;
-    Sheet* m_exported = nullptr; ///< what of the grid goes into a workbook
-    std::unique_ptr<CellEditing> m_editing;
-    std::unique_ptr<RowSorting> m_sorting;
-
-    HeldDocument m_held;
-    bool m_xmlIsNew = false;    ///< the host has handed over text that no activation has loaded yet
-    bool m_leaving = false;     ///< the user has been asked, or the host is being told
-    bool m_unloaded = false;    ///< the host has been told to unload the view
+    std::unique_ptr<ScheduleRooms> m_rooms;
+    std::unique_ptr<ViewCommands> m_commands;
+    std::unique_ptr<GridMenu> m_menu;
     bool m_initialised = false; ///< the controls around the grid have been set up
-
-    bool m_sweepTicks = false; ///< what the mouse makes of the check boxes that it sweeps over
-    bool m_showsTags = false;  ///< what was loaded last, with success, is a table of tags
-
-    QString m_builderPdsg;
-    int m_viewType = 0;
-    bool m_printsSelections = false;
-    QString m_customText;
-    bool m_customBold = false;
-    bool m_customItalic = false;
-    int m_customAlignment = 0;
-    int m_rowsFrozen = 0;
-    int m_colsFrozen = 0;
-    int m_rowsFrozenByHost = 0;
-    int m_colsFrozenByHost = 0;
-    bool m_selectAllTags = false;
+    bool m_hadUnsavedEdits = false;
 };
 
 } // namespace schedules

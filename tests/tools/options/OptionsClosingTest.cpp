@@ -72,7 +72,7 @@ TEST_F(OptionsClosing, AHostThatDoesNotListenToTheUnloadingIsToldSo)
         EXPECT_EQ(host.Log().last().toStdString(),
                   "event ctlSchedOptions -> Framework: ErrorMessage 20 9 [2 ErrorDescription=The "
                   "host does not listen to UnloadScheduleOptions] "
-                  "[2 ErrorSource=] [3 ErrorNumber=51] "
+                  "[2 ErrorSource=Schedules.ctlSchedOptions.UnloadUserControl] [3 ErrorNumber=51] "
                   "[2 ProcName=Schedules.ctlSchedOptions.UnloadUserControl]");
     }
 }

@@ -1,5 +1,7 @@
 #include "tools/options/lists/ItemTexts.h"
 
+#include "common/BooleanText.h"
+
 namespace schedules {
 
 namespace {
@@ -14,6 +16,15 @@ std::optional<bool> FlagIn(const CProperties& properties, const QString& name)
     bool flag = false;
     IgnoringErrors([&] { flag = FlagOf(property->Value()); });
     return flag;
+}
+
+bool TakeCheckMark(CProperties& properties, const QString& name, bool checked)
+{
+    const auto property = properties.Item(name);
+    if (!property || FlagIn(properties, name) == checked)
+        return false;
+    property->SetValue(BooleanText(checked));
+    return true;
 }
 
 void SetProperty(CProperties& properties, const QString& name, const QString& value)

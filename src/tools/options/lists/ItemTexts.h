@@ -10,6 +10,10 @@ namespace schedules {
 /// bearer alone: it counts as false.
 std::optional<bool> FlagIn(const CProperties& properties, const QString& name);
 
+/// Gives a flag the state of its check mark. False when it has that already, and when there is no such property: then
+/// nothing can be checked.
+bool TakeCheckMark(CProperties& properties, const QString& name, bool checked);
+
 /// Sets a property, and adds it where it is missing.
 void SetProperty(CProperties& properties, const QString& name, const QString& value);
 

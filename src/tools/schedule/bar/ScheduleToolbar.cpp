@@ -2,7 +2,7 @@
 
 #include "common/modResource.h"
 #include "controls/desktop/SymbolIcon.h"
-#include "tools/schedule/bar/ScheduleTools.h"
+#include "tools/schedule/bar/ViewTools.h"
 
 #include <QAction>
 #include <QKeyEvent>
@@ -80,11 +80,11 @@ bool ScheduleToolbar::AddDropDown(const QString& key, QMenu* menu)
     return true;
 }
 
-void ScheduleToolbar::AddEntry(QMenu* menu, const QString& key, const QString& text)
+void ScheduleToolbar::AddEntry(QMenu* menu, const QString& name, const QString& text)
 {
     QAction* entry = menu->addAction(text);
-    entry->setObjectName(key);
-    connect(entry, &QAction::triggered, this, [this, key] { Tell([this, key] { Q_EMIT ViewToolClicked(key); }); });
+    entry->setObjectName(name);
+    connect(entry, &QAction::triggered, this, [this, name] { Tell([this, name] { Q_EMIT EntryChosen(name); }); });
 }
 
 /// Before it opens. That of a narrow bar is made when it is needed.

@@ -58,13 +58,14 @@ public:
     /// accessible name. False when there is no tool of that key.
     bool AddDropDown(const QString& key, QMenu* menu);
 
-    /// Adds an entry to such a menu. It is told like a tool of that key.
-    void AddEntry(QMenu* menu, const QString& key, const QString& text);
+    /// Adds an entry to such a menu, which `EntryChosen` tells.
+    void AddEntry(QMenu* menu, const QString& name, const QString& text);
 
 Q_SIGNALS:
     // What was chosen in a menu is told when the menu is done with it, everything else at once.
     void ViewToolClicked(const QString& key);
     void HostToolClicked(const QString& owner, const QString& key);
+    void EntryChosen(const QString& name);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

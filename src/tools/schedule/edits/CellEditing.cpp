@@ -4,10 +4,15 @@
 #include "controls/cells/CellContent.h"
 #include "controls/grid/CellEditBox.h"
 #include "controls/grid/SpreadView.h"
-#include "grid/CSchedule.h"
+#include "tools/schedule/ViewSettings.h"
+#include "tools/schedule/edits/EditSession.h"
+#include "tools/schedule/table/ShownTable.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
+#include <QPointer>
 
+#include <algorithm>
 #include <utility>
 
 namespace schedules {
@@ -26,10 +31,37 @@ Qt::Alignment AlignmentOf(const CellContent& content)
     return content.hAlign == HorizontalAlignment::Data && IsNumber(content) ? Qt::AlignRight : Qt::AlignLeft;
 }
 
+/// A table knows no text of white space alone.
+QString AsInTable(const QString& text)
+{
+    static const QString kWhiteSpace = QStringLiteral(" \t\r\n");
+    return std::ranges::all_of(text, [](QChar character) { return kWhiteSpace.contains(character); }) ? QString()
+                                                                                                      : text;
+}
+
+void Press(QWidget& widget, int key, const QString& text = {})
+{
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QCoreApplication::sendEvent(&widget, &press);
+}
+
+/// Types a text over the one that is selected.
+void TypeInto(QLineEdit& box, const QString& text)
+{
+    if (text.isEmpty())
+        return Press(box, Qt::Key_Delete);
+    for (const char32_t character : text.toUcs4())
+        Press(box, Qt::Key_unknown, QString::fromUcs4(&character, 1));
+}
+
 } // namespace
 
-CellEditing::CellEditing(SpreadView& grid, CSchedule& engine, std::function<bool(Cell)> isAllowed)
-    : m_grid(grid), m_engine(engine), m_isAllowed(std::move(isAllowed)), m_box(new CellEditBox(grid.viewport()))
+CellEditing::CellEditing(ShownTable& table, EditSession& edits, const ViewSettings& settings)
+    : m_table(table),
+      m_edits(edits),
+      m_settings(settings),
+      m_grid(table.Grid()),
+      m_box(new CellEditBox(m_grid.viewport()))
 {
     m_box->setObjectName(QStringLiteral("txtEditCell"));
     m_grid.installEventFilter(this);
@@ -41,6 +73,7 @@ CellEditing::~CellEditing() = default;
 void CellEditing::Connect()
 {
     connect(&m_grid, &SpreadView::ActiveCellMoved, this, &CellEditing::OnCellMoved);
+    connect(&m_grid, &SpreadView::CellClicked, this, &CellEditing::OnCellClicked);
     connect(&m_grid, &SpreadView::CellDoubleClicked, this, &CellEditing::StartCellEdit);
     connect(&m_grid, &SpreadView::CellsMoved, this, &CellEditing::CommitCellEdit);
     connect(m_box, &CellEditBox::EnterPressed, this, &CellEditing::CommitCellEdit);
@@ -49,17 +82,18 @@ void CellEditing::Connect()
     connect(m_box, &CellEditBox::TabPressed, this, &CellEditing::GoOnByTab);
     connect(m_box, &CellEditBox::VerticalKeyPressed, this, &CellEditing::GoOnVertically);
     connect(m_box, &CellEditBox::Refused, this, &CellEditing::Refused);
+    connect(m_box, &QLineEdit::textChanged, this, &CellEditing::FollowBox);
 }
 
 const Sheet& CellEditing::Table() const
 {
-    return *m_engine.Sched();
+    return *m_table.Engine().Sched();
 }
 
 bool CellEditing::CellEditable(Sheet::TablePlace place) const
 {
     const Cell cell = Table().CellAt(place);
-    return IsDataCell(cell) && Table().Style(cell).allowEdit && m_isAllowed(cell);
+    return IsDataCell(cell) && Table().Style(cell).allowEdit && m_settings.IsScheduleView() && m_edits.MayEdit(cell);
 }
 
 bool CellEditing::IsEditableCheckBox(Cell cell) const
@@ -73,12 +107,19 @@ void CellEditing::OnCellMoved(Cell cell)
     StartCellEdit(cell);
 }
 
+/// A click on the active cell, whose edit has been closed, opens it again.
+void CellEditing::OnCellClicked(Cell cell)
+{
+    if (cell == Table().ActiveCell())
+        StartCellEdit(cell);
+}
+
 void CellEditing::StartCellEdit(Cell cell)
 {
     IgnoringErrors([&] {
-        if (m_engine.SchedOrientation() == 1 && cell.row == Row(0)) {
+        if (m_table.Engine().SchedOrientation() == 1 && cell.row == Row(0)) {
             m_grid.SelectColumn(cell.column);
-            m_engine.Sched()->SetRepainting(true);
+            m_table.Engine().Sched()->SetRepainting(true);
         } else if (CellEditable(Table().TablePlaceOf(cell)) && !IsEditableCheckBox(cell))
             BeginCellEdit(cell.column, cell.row);
     });
@@ -104,13 +145,16 @@ void CellEditing::CommitCellEdit()
         return;
     // Idle before anything else happens: what follows moves the focus, and losing it commits.
     const Edit edit = std::exchange(m_edit, {});
+    const Cell cell{edit.column, edit.row};
     QString text = edit.previous;
     IgnoringErrors([&] { text = m_box->FinishedValue(); });
-    if (text.trimmed().isEmpty())
-        text.clear(); // a table knows no text of white space alone
-    IgnoringErrors([this] { CloseBox(); });
     if (text != edit.previous)
-        Q_EMIT Changed({edit.column, edit.row}, text);
+        text = AsInTable(text);
+    const QPointer<CellEditing> alive(this); // a host that is told of the value may delete the view
+    if (text != edit.previous)
+        m_edits.Change(cell, text);
+    if (alive)
+        IgnoringErrors([this] { CloseBox(); });
 }
 
 void CellEditing::CloseBox()
@@ -118,6 +162,37 @@ void CellEditing::CloseBox()
     if (m_box->window()->focusWidget() == m_box)
         m_grid.setFocus(Qt::OtherFocusReason);
     m_box->Close();
+    FollowBox();
+}
+
+void CellEditing::FollowBox()
+{
+    const bool hasOpenChange = m_edit.editing && m_box->text() != m_edit.previous;
+    if (std::exchange(m_hasOpenChange, hasOpenChange) != hasOpenChange)
+        Q_EMIT OpenChangeChanged();
+}
+
+void CellEditing::LookAtDocument()
+{
+    if (!m_edit.editing || m_edits.MayGoOn({m_edit.column, m_edit.row}, m_edit.previous))
+        return;
+    m_edit = {};
+    CloseBox();
+    Q_EMIT Refused();
+}
+
+CellEditing::Typed CellEditing::Type(Cell cell, const QString& text)
+{
+    CommitCellEdit();
+    StartCellEdit(cell);
+    if (!m_edit.editing)
+        return Typed::NotEditable;
+    TypeInto(*m_box, text);
+    const bool isTaken = m_box->text() == text;
+    if (!isTaken)
+        m_box->SetValue(m_edit.previous);
+    CommitCellEdit();
+    return isTaken ? Typed::Taken : Typed::Refused;
 }
 
 void CellEditing::Escape()

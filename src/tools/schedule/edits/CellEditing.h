@@ -4,7 +4,6 @@
 
 #include <QObject>
 
-#include <functional>
 #include <optional>
 #include <vector>
 
@@ -13,8 +12,10 @@ class QKeyEvent;
 namespace schedules {
 
 class CellEditBox;
-class CSchedule;
+class EditSession;
+class ShownTable;
 class SpreadView;
+struct ViewSettings;
 
 /// Editing the cells of a schedule: a box that lies over one cell at a time, and the keys and clicks that open it, go
 /// on with it and close it. Idle, or open at one cell; committing, whatever its cause, makes it idle.
@@ -25,25 +26,43 @@ class CellEditing : public QObject
     Q_OBJECT
 
 public:
-    /// Both must outlive the editing, whose box (`txtEditCell`) is a child of the grid. `isAllowed` is asked whether
-    /// a cell may be edited now; without a yes no edit starts.
-    CellEditing(SpreadView& grid, CSchedule& engine, std::function<bool(Cell)> isAllowed);
+    /// All must outlive the editing, whose box (`txtEditCell`) is a child of the table's grid.
+    CellEditing(ShownTable& table, EditSession& edits, const ViewSettings& settings);
     ~CellEditing() override;
 
     /// Whether the table lets the user change the cell at that place, now. Headers never.
     bool CellEditable(Sheet::TablePlace place) const;
     bool IsEditableCheckBox(Cell cell) const;
 
-    /// Ends an open edit. A text that differs from the former one is told with `Changed`.
+    bool IsEditing() const { return m_edit.editing; }
+
+    /// Whether the text of an open box is not the one of its cell.
+    bool HasOpenChange() const { return m_hasOpenChange; }
+
+    /// Ends an open edit. A text that differs from the one when it began is a change, and its column becomes wide
+    /// enough for it.
     void CommitCellEdit();
+
+    /// To be called when the host has handed over text: an open edit that it leaves no place for is refused.
+    void LookAtDocument();
+
+    /// Enters a text into a cell as a user does, with the same limits. False when no edit opens there, or the box takes
+    /// no such text; the cell is then as it was.
+    enum class Typed
+    {
+        Taken,
+        NotEditable,
+        Refused
+    };
+    Typed Type(Cell cell, const QString& text);
 
     /// To be called when another table may have been loaded.
     void ForgetTable() { m_editableRows.clear(); }
 
 Q_SIGNALS:
-    void Changed(schedules::Cell cell, const QString& text);
+    void OpenChangeChanged();
 
-    /// The box has refused something that was typed or pasted.
+    /// The box has refused something that was typed or pasted, or the document an edit.
     void Refused();
 
 protected:
@@ -64,6 +83,8 @@ private:
     void BeginCellEdit(Column column, Row row);
     void CloseBox();
     void OnCellMoved(Cell cell);
+    void OnCellClicked(Cell cell);
+    void FollowBox();
 
     // Keys of the box.
     void Escape();
@@ -80,11 +101,13 @@ private:
     std::optional<Cell> NextEditable(Cell from, int step);
     void FindEditableRows();
 
+    ShownTable& m_table;
+    EditSession& m_edits;
+    const ViewSettings& m_settings;
     SpreadView& m_grid;
-    CSchedule& m_engine;
-    std::function<bool(Cell)> m_isAllowed;
     CellEditBox* m_box;
     Edit m_edit;
+    bool m_hasOpenChange = false;
     std::vector<bool> m_editableRows; ///< by row, whether any of its cells may be edited; empty when not yet asked
 };
 

@@ -2,6 +2,8 @@
 
 #include "framework/Message.h"
 
+#include <QXmlStreamReader>
+
 #include <algorithm>
 #include <string_view>
 
@@ -69,6 +71,19 @@ QByteArray EditedElement(QByteArrayView element, const QString& text)
 {
     const std::string_view tag = StartTag({element.data(), static_cast<std::size_t>(element.size())});
     return WithDirty(tag) + '>' + EscapedXml(text).toUtf8() + "</" + Bytes(Name(tag)) + '>';
+}
+
+ElementAttributes AttributesOfElement(const QByteArray& element)
+{
+    QXmlStreamReader reader(element);
+    reader.setNamespaceProcessing(false);
+    reader.readNextStartElement();
+    ElementAttributes attributes;
+    for (const QXmlStreamAttribute& attribute : reader.attributes()) {
+        if (attribute.qualifiedName() != QLatin1String(kDirty.data()))
+            attributes.emplace_back(attribute.qualifiedName().toString(), attribute.value().toString());
+    }
+    return attributes;
 }
 
 } // namespace schedules

@@ -1,7 +1,6 @@
 #include "tools/schedule/edits/HeldDocument.h"
 
 #include "common/XmlReader.h"
-#include "tools/schedule/edits/EditedElement.h"
 
 #include <QStringDecoder>
 
@@ -44,12 +43,7 @@ QString HeldDocument::Text() const
     return decoder(edited);
 }
 
-bool HeldDocument::AllowsEdit(Sheet::TablePlace place) const
-{
-    return Open() && m_spans->AllowsEdit(place);
-}
-
-bool HeldDocument::SetCellText(Sheet::TablePlace place, const QString& text)
+bool HeldDocument::SetCellText(Sheet::TablePlace place, const QString& text, const QString& former)
 {
     const auto span = Open() ? m_spans->Find(place) : std::nullopt;
     if (!span || LiesInEdited(*span))
@@ -59,8 +53,28 @@ bool HeldDocument::SetCellText(Sheet::TablePlace place, const QString& text)
     m_losesCells = m_losesCells || element.contains("<TR");
     m_edits.erase(m_edits.lower_bound(span->start), m_edits.lower_bound(span->end));
     m_edits[span->start] = {span->end, EditedElement(element, text)};
-    m_unsaved.insert(place);
+    m_unsaved.try_emplace(place, former);
     return true;
+}
+
+QByteArray HeldDocument::ElementAt(Sheet::TablePlace place) const
+{
+    const auto span = Open() ? m_spans->Find(place) : std::nullopt;
+    if (!span)
+        return {};
+    const auto edit = m_edits.find(span->start);
+    return edit != m_edits.end() ? edit->second.element : m_utf8.mid(span->start, span->end - span->start);
+}
+
+ElementAttributes HeldDocument::AttributesOf(Sheet::TablePlace place) const
+{
+    return AttributesOfElement(ElementAt(place));
+}
+
+void HeldDocument::PutBack(const Formers& unsaved)
+{
+    for (const auto& [place, former] : unsaved)
+        m_unsaved.insert_or_assign(place, former);
 }
 
 bool HeldDocument::Open() const
@@ -84,40 +98,44 @@ void HeldDocument::Settle()
 {
     if (m_edits.empty())
         return;
-    const std::set<std::uint32_t> unsaved = m_losesCells ? StartsOfUnsaved() : std::set<std::uint32_t>();
+    const auto formers = m_losesCells ? FormersByStart() : std::map<std::uint32_t, QString>();
     m_text = Text();
     m_spans.reset();
     m_utf8.clear();
     m_edits.clear();
     if (std::exchange(m_losesCells, false))
-        FindUnsaved(unsaved);
+        FindUnsaved(formers);
 }
 
 /// Where the unsaved elements that are still there begin in the text with all edits.
-std::set<std::uint32_t> HeldDocument::StartsOfUnsaved() const
+std::map<std::uint32_t, QString> HeldDocument::FormersByStart() const
 {
-    std::set<std::uint32_t> here;
-    for (const Sheet::TablePlace place : m_unsaved) {
+    std::map<std::uint32_t, QString> here;
+    for (const auto& [place, former] : m_unsaved) {
         const auto span = m_spans->Find(place);
         if (span && !LiesInEdited(*span))
-            here.insert(span->start);
+            here.emplace(span->start, former);
     }
-    std::set<std::uint32_t> starts;
+    std::map<std::uint32_t, QString> moved;
     std::int64_t shift = 0;
     auto edit = m_edits.begin();
-    for (const std::uint32_t start : here) {
+    for (const auto& [start, former] : here) {
         for (; edit != m_edits.end() && edit->first < start; ++edit)
             shift += edit->second.element.size() - (static_cast<std::int64_t>(edit->second.end) - edit->first);
-        starts.insert(static_cast<std::uint32_t>(start + shift));
+        moved.emplace(static_cast<std::uint32_t>(start + shift), former);
     }
-    return starts;
+    return moved;
 }
 
-void HeldDocument::FindUnsaved(const std::set<std::uint32_t>& starts)
+void HeldDocument::FindUnsaved(const std::map<std::uint32_t, QString>& formers)
 {
     m_unsaved.clear();
-    if (Open())
-        m_unsaved = m_spans->PlacesOf(starts);
+    if (!Open())
+        return;
+    m_spans->ForEach([&](Sheet::TablePlace place, const CellSpan& span) {
+        if (const auto former = formers.find(span.start); former != formers.end())
+            m_unsaved.emplace(place, former->second);
+    });
 }
 
 } // namespace schedules

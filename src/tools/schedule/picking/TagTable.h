@@ -2,6 +2,8 @@
 
 #include "spread/Sheet.h"
 
+#include <optional>
+
 namespace schedules {
 
 /// What a user has picked from a table of tags.
@@ -23,6 +25,9 @@ QString CheckBoxText(bool ticked);
 
 /// Only the text "1" is a tick.
 bool IsTicked(const Sheet& sheet, Cell cell);
+
+/// The check box of the tag with that identifier.
+std::optional<Cell> CheckBoxOf(const Sheet& sheet, Tags tags, const QString& identifier);
 
 /// The ticked tags in the order of their addresses, hidden ones included; one without an identifier does not count.
 /// Identifiers stand in the first line beside the headers, check boxes in the second.
