@@ -2,7 +2,6 @@
 
 #include "host/base/HostError.h"
 #include "host/files/XmlFile.h"
-#include "host/tools/ScheduleUser.h"
 
 namespace schedules::host {
 
@@ -24,17 +23,16 @@ LoadedTool::LoadedTool(const CommandLine& commandLine, const QString& xml)
 
 void LoadedTool::Perform(const UserActions& actions)
 {
-    ScheduleUser user(m_tool);
     for (const CellText& edit : actions.edits)
-        user.Edit(edit);
+        m_tool.Enter(edit);
     for (const QString& tag : actions.ticks)
-        user.Tick(tag);
+        m_tool.Tick(tag);
     if (actions.sort)
-        user.Sort(*actions.sort);
+        m_tool.Sort(*actions.sort);
     if (actions.pressContinue)
-        user.PressContinue();
+        m_tool.Continue();
     if (!actions.save.isEmpty())
-        user.PressSave();
+        m_tool.Save();
     ThrowFailure();
     if (m_handedOver)
         WriteXmlFile(actions.save, *m_handedOver);

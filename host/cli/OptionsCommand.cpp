@@ -8,7 +8,6 @@
 #include "host/cli/Picture.h"
 #include "host/files/InputFiles.h"
 #include "host/tools/ConsoleUserInterface.h"
-#include "host/tools/OptionsUser.h"
 #include "host/tools/Session.h"
 #include "host/window/OptionsWindow.h"
 #include "host/window/Palettes.h"
@@ -48,13 +47,12 @@ QStringList FilesOf(const TemplatePlaces& places)
 
 void Show(HostedEditor& tool, const EditorOptions& options)
 {
-    OptionsUser user(tool);
     if (!options.templateFile.isEmpty())
-        user.ChooseTemplate(options.templateFile);
+        tool.ChooseTemplate(options.templateFile);
     if (!options.group.isEmpty())
-        user.SelectGroup(options.group);
+        tool.SelectGroup(options.group);
     if (!options.item.isEmpty())
-        user.SelectItem(options.item);
+        tool.SelectItem(options.item);
 }
 
 int OpenWindow(HostRouter& router, const QString& folder, const EditorOptions& options)

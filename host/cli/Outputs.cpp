@@ -24,7 +24,7 @@ QString Written(HostedSchedule& tool, const Output& output, const RenderOptions&
         return tool.WritePdf(output.fileName, options.smartPrint, options.paper);
     if (output.format != QLatin1String("png"))
         return tool.WriteFile(output.format, output.fileName);
-    WritePng(PictureOf(tool.Widget(), options.title), output.fileName);
+    WritePng(PictureOf(tool, options.title), output.fileName);
     return {};
 }
 

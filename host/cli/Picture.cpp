@@ -2,13 +2,12 @@
 
 #include "host/base/HostError.h"
 #include "host/files/FileReplacement.h"
+#include "host/tools/HostedSchedule.h"
 
-#include <QAbstractScrollArea>
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QImageWriter>
 #include <QPainter>
-#include <QScrollBar>
 
 namespace schedules::host {
 
@@ -17,37 +16,15 @@ namespace {
 constexpr QSize kSmallest{480, 320};
 constexpr QSize kLargest{6000, 8000};
 
-/// The scroll area that shows the sheet: the largest one of the tool.
-QAbstractScrollArea* GridArea(const QWidget& tool)
+/// Lays the view out so that its grid needs no scroll bars, unless that would be too large.
+void FitToGrid(HostedSchedule& view)
 {
-    QAbstractScrollArea* largest = nullptr;
-    for (auto* area : tool.findChildren<QAbstractScrollArea*>()) {
-        const auto extent = [](const QWidget* widget) { return widget->width() * widget->height(); };
-        if (area->isVisible() && (!largest || extent(area) > extent(largest)))
-            largest = area;
-    }
-    return largest;
-}
-
-/// The size of all that the area can scroll over.
-QSize ContentSize(const QAbstractScrollArea& area)
-{
-    const QSize beyond(area.horizontalScrollBar()->maximum(), area.verticalScrollBar()->maximum());
-    return area.viewport()->size() + beyond;
-}
-
-/// Lays the tool out so that its grid needs no scroll bars, unless that would be too large.
-void FitToGrid(QWidget& tool)
-{
-    tool.setAttribute(Qt::WA_DontShowOnScreen);
-    tool.resize(kSmallest);
-    tool.show();
-    const QAbstractScrollArea* area = GridArea(tool);
-    if (!area)
-        return;
-    const QSize around = tool.size() - area->maximumViewportSize();
-    tool.resize((ContentSize(*area) + around).expandedTo(kSmallest).boundedTo(kLargest));
-    // Scroll bars that are no longer needed go when the area comes to its events.
+    QWidget& widget = view.Widget();
+    widget.setAttribute(Qt::WA_DontShowOnScreen);
+    widget.resize(kSmallest);
+    widget.show();
+    widget.resize(view.WholeSize().expandedTo(kSmallest).boundedTo(kLargest));
+    // Scroll bars that are no longer needed go when the grid comes to its events.
     QCoreApplication::sendPostedEvents();
 }
 
@@ -61,9 +38,10 @@ QFont HeadingFont(const QWidget& tool)
 
 } // namespace
 
-QImage PictureOf(QWidget& tool, const QString& title)
+QImage PictureOf(HostedSchedule& view, const QString& title)
 {
-    FitToGrid(tool);
+    FitToGrid(view);
+    QWidget& tool = view.Widget();
     const QFontMetrics metrics(HeadingFont(tool));
     const int padding = metrics.height() / 2;
     const int heading = title.isEmpty() ? 0 : metrics.height() + 2 * padding;

@@ -159,7 +159,7 @@ QString MainWindow::SaveTable(const Message& message)
 /// has nothing to save, has failed.
 bool MainWindow::ViewKeepsOpen()
 {
-    if (m_unloaded || !m_tool || !m_tool->PressCancel())
+    if (m_unloaded || !m_tool || !m_tool->Close())
         return false;
     return m_unloaded || m_tool->Dirty();
 }

@@ -55,7 +55,7 @@ void OptionsWindow::closeEvent(QCloseEvent* event)
     const bool stays = !m_unloaded && !MayReplace(m_tool, *this, m_answering.unsaved);
     event->setAccepted(!stays);
     if (!stays && !m_unloaded)
-        m_tool.PressCancel();
+        m_tool.Cancel();
 }
 
 void OptionsWindow::OnCrossed(const Crossing& crossing)

@@ -7,6 +7,7 @@
 #include <QMenuBar>
 
 #include <algorithm>
+#include <utility>
 
 namespace schedules::host {
 
@@ -38,15 +39,21 @@ ProjectMenus::ProjectMenus(QMainWindow& window, const QList<QAction*>& panes)
 
 void ProjectMenus::Build()
 {
-    qDeleteAll(m_window.menuBar()->findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly));
+    qDeleteAll(std::exchange(m_menus, {}));
     BuildFileMenu();
     BuildViewMenu();
     BuildHelpMenu();
 }
 
+QMenu* ProjectMenus::Added(const QString& title)
+{
+    m_menus.append(m_window.menuBar()->addMenu(title));
+    return m_menus.last();
+}
+
 void ProjectMenus::BuildFileMenu()
 {
-    QMenu* menu = m_window.menuBar()->addMenu(tr("&File"));
+    QMenu* menu = Added(tr("&File"));
     menu->addAction(tr("&New Project..."), QKeySequence::New, this, &ProjectMenus::NewWanted);
     menu->addAction(tr("&Open Project..."), QKeySequence::Open, this, &ProjectMenus::OpenWanted);
     menu->addAction(tr("Open from &Server..."), this, &ProjectMenus::ServerWanted);
@@ -71,7 +78,7 @@ void ProjectMenus::ListRecent(QMenu& menu)
 
 void ProjectMenus::BuildViewMenu()
 {
-    QMenu* menu = m_window.menuBar()->addMenu(tr("&View"));
+    QMenu* menu = Added(tr("&View"));
     m_languages =
         BuildChoices(*menu->addMenu(tr("&Language")), kLanguageNames, kLanguageCodes, &ProjectMenus::LanguageChosen);
     m_palettes = BuildChoices(*menu->addMenu(tr("&Colours")), {tr("Desktop"), tr("Light"), tr("Dark")}, kPaletteNames,
@@ -97,7 +104,7 @@ QActionGroup* ProjectMenus::BuildChoices(QMenu& menu, const QStringList& names, 
 
 void ProjectMenus::BuildHelpMenu()
 {
-    QMenu* menu = m_window.menuBar()->addMenu(tr("&Help"));
+    QMenu* menu = Added(tr("&Help"));
     menu->addAction(tr("&Contents"), QKeySequence::HelpContents, this, &ProjectMenus::HelpWanted);
     menu->addAction(tr("&About"), this, &ProjectMenus::AboutWanted);
 }

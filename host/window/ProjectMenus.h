@@ -44,6 +44,7 @@ Q_SIGNALS:
     void AboutWanted();
 
 private:
+    QMenu* Added(const QString& title);
     void BuildFileMenu();
     void BuildViewMenu();
     void BuildHelpMenu();
@@ -58,6 +59,7 @@ private:
     HostSettings m_settings;
     QString m_language;
     QString m_palette;
+    QList<QMenu*> m_menus;
     QActionGroup* m_languages = nullptr;
     QActionGroup* m_palettes = nullptr;
 };

@@ -42,8 +42,8 @@ bool MayReplace(HostedSchedule& tool, QWidget& window, const QString& name, cons
 
 bool MayReplace(HostedEditor& editor, QWidget& window, const UnsavedQuestion& question)
 {
-    return !editor.HasUnsavedEdits() || MayDrop(question(window, editor.TemplateFile()),
-                                                [&] { return editor.PressApply(), !editor.HasUnsavedEdits(); });
+    return !editor.HasUnsavedEdits() ||
+           MayDrop(question(window, editor.TemplateFile()), [&] { return editor.Apply(), !editor.HasUnsavedEdits(); });
 }
 
 } // namespace schedules::host

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QSize>
 #include <QString>
 #include <QtPlugin>
 
@@ -99,9 +100,11 @@ public:
     /// All that has been edited and not saved, in the table's order.
     virtual QList<ChangedCell> ChangedCells() const = 0;
 
+    /// The size at which the whole grid is seen without scrolling, in pixels, when all else is as it is laid out now.
+    virtual QSize WholeSize() const = 0;
+
     /// Writes what the grid shows: an Excel 97 workbook ("xls"), an Office Open XML one ("xlsx"), comma-separated
-    /// values
-    /// ("csv") or a web page ("html"). Returns what went wrong, an empty text when it is done.
+    /// values ("csv") or a web page ("html"). Returns what went wrong, an empty text when it is done.
     virtual QString WriteFile(const QString& format, const QString& fileName) = 0;
 
     /// Prints the grid into a PDF file. Returns what went wrong, likewise.

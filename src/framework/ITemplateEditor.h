@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QtPlugin>
 
 namespace schedules {
@@ -24,6 +25,9 @@ public:
     /// it cannot be selected now.
     virtual bool SelectGroup(const QString& name) = 0;
     virtual bool SelectItem(const QString& name) = 0;
+
+    /// The names that are listed of the selected group's data items.
+    virtual QStringList ItemNames() const = 0;
 
     /// Whether the current template has edits that are not saved.
     virtual bool HasUnsavedEdits() const = 0;

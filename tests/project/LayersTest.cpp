@@ -175,6 +175,15 @@ TEST(Layers, EveryFolderOfSourcesIsInTheTable)
         EXPECT_TRUE(kMayInclude.contains(LayerOfFile(file))) << file.toStdString();
 }
 
+/// What a tool does it does by its interfaces; a widget of its own, or a method by its text, is none of the host's
+/// business.
+TEST(Layers, TheHostKnowsNoPartOfATool)
+{
+    const QRegularExpression parts(R"re(findChild|Q_ARG|Q_RETURN_ARG|invokeMethod\([^;]*")re");
+    for (const QString& file : SourcesBelow("host"))
+        EXPECT_FALSE(parts.match(ContentOf(file)).hasMatch()) << file.toStdString();
+}
+
 TEST(Layers, OnlyTheProgramItselfLiesAtTheHostsDoor)
 {
     EXPECT_EQ(QDir(kProject + "/host").entryList({"*.h", "*.cpp"}, QDir::Files), QStringList{"main.cpp"});

@@ -230,6 +230,15 @@ bool ctlSchedOptions::SelectItem(const QString& name)
     return EnteredWith([&] { return m_rooms->items.SelectEntry(name); });
 }
 
+QStringList ctlSchedOptions::ItemNames() const
+{
+    const CheckList& list = *m_rooms->form.lstItems;
+    QStringList names;
+    for (int row = 0; row < list.Count(); ++row)
+        names.append(list.Text(row));
+    return names;
+}
+
 bool ctlSchedOptions::HasUnsavedEdits() const
 {
     return m_rooms->state.IsDirty();

@@ -39,6 +39,7 @@ public:
     bool ChooseTemplate(const QString& fileName) override;
     bool SelectGroup(const QString& name) override;
     bool SelectItem(const QString& name) override;
+    QStringList ItemNames() const override;
     bool HasUnsavedEdits() const override;
     bool Apply() override;
     bool Cancel() override;

@@ -15,6 +15,7 @@
 #include <QCloseEvent>
 #include <QMenu>
 #include <QPushButton>
+#include <QScrollBar>
 
 #include <utility>
 
@@ -393,6 +394,13 @@ bool ctlSchedule::ShowCell(const QString& tag, const QString& item)
 QList<ChangedCell> ctlSchedule::ChangedCells() const
 {
     return m_rooms->edits.ChangedCells();
+}
+
+QSize ctlSchedule::WholeSize() const
+{
+    const SpreadView& grid = *m_layout.grid;
+    const QSize beyond(grid.horizontalScrollBar()->maximum(), grid.verticalScrollBar()->maximum());
+    return size() - grid.maximumViewportSize() + grid.viewport()->size() + beyond;
 }
 
 int ctlSchedule::RowsFrozen() const

@@ -98,6 +98,7 @@ public:
     std::optional<GridPlace> FindCell(const QString& tag, const QString& item) const override;
     bool ShowCell(const QString& tag, const QString& item) override;
     QList<ChangedCell> ChangedCells() const override;
+    QSize WholeSize() const override;
     QString WritePdf(const QString& fileName, const PaperOptions& options) override;
 
     QString BuilderPdsg() const { return m_settings.builderPdsg; }

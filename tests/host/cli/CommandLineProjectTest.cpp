@@ -1,6 +1,7 @@
 // The commands on a project.
 
 #include "ParsedCommandLine.h"
+#include "host/cli/HelpText.h"
 
 namespace schedules::host::testing {
 

@@ -1,4 +1,5 @@
 #include "ParsedCommandLine.h"
+#include "host/cli/HelpText.h"
 
 #include <string_view>
 

@@ -4,7 +4,6 @@
 #include "host/base/HostError.h"
 #include "host/tools/HostRouter.h"
 #include "host/tools/LanguageModule.h"
-#include "host/tools/OptionsUser.h"
 #include "support/ScriptedUserInterface.h"
 
 #include <QAbstractItemView>
@@ -67,7 +66,7 @@ protected:
     /// Leaves out a group of the template that is shown.
     void Uncheck(const char* group)
     {
-        OptionsUser(window->Tool()).SelectGroup(QLatin1String(group));
+        window->Tool().SelectGroup(QLatin1String(group));
         QTest::keyClick(&Find<QAbstractItemView>("lstGroups"), Qt::Key_Space);
     }
 
@@ -106,7 +105,7 @@ protected:
 };
 
 using OptionsWindowClosing = OptionsWindowTest;
-using OptionsUserTest = OptionsWindowTest;
+using HostedEditorTest = OptionsWindowTest;
 
 } // namespace
 
@@ -157,7 +156,7 @@ TEST_F(OptionsWindowTest, ApplyLeavesTheEntriesOfTheListAsTheyAre)
 TEST_F(OptionsWindowTest, OkOnAnotherTemplateMakesItTheSchedulesAndCloses)
 {
     Open();
-    OptionsUser(Tool()).ChooseTemplate(QStringLiteral("Fans.xml"));
+    Tool().ChooseTemplate(QStringLiteral("Fans.xml"));
     Press("cmdOK");
     EXPECT_EQ(host->Current(), "Fans.xml");
     EXPECT_TRUE(window->isVisible()) << "the editor is still at work in its click";
@@ -293,10 +292,10 @@ TEST_F(OptionsWindowClosing, AnEditorThatCannotBeAskedDoesNotKeepTheWindow)
     EXPECT_TRUE(Closes());
 }
 
-TEST_F(OptionsUserTest, ChoosesATemplateByItsFileInAnyLetterCase)
+TEST_F(HostedEditorTest, ChoosesATemplateByItsFileInAnyLetterCase)
 {
     Open();
-    OptionsUser editorUser(Tool());
+    HostedEditor& editorUser = Tool();
     editorUser.ChooseTemplate(QStringLiteral("FANS.xml"));
     EXPECT_EQ(Shown(), "Fans.xml");
     editorUser.ChooseTemplate(QStringLiteral("Pumps.xml"));
@@ -305,10 +304,10 @@ TEST_F(OptionsUserTest, ChoosesATemplateByItsFileInAnyLetterCase)
     EXPECT_FALSE(Tool().HasUnsavedEdits());
 }
 
-TEST_F(OptionsUserTest, SelectsAGroupAndAnItemAsTheyAreListed)
+TEST_F(HostedEditorTest, SelectsAGroupAndAnItemAsTheyAreListed)
 {
     Open();
-    OptionsUser editorUser(Tool());
+    HostedEditor& editorUser = Tool();
     editorUser.SelectGroup(QStringLiteral("Design data"));
     for (const char* name : {"Rated flow", "Duty note", "*Duty note"}) {
         editorUser.SelectItem(QLatin1String(name));
@@ -319,10 +318,10 @@ TEST_F(OptionsUserTest, SelectsAGroupAndAnItemAsTheyAreListed)
     EXPECT_FALSE(Tool().HasUnsavedEdits());
 }
 
-TEST_F(OptionsUserTest, WhatIsNotThereOrCannotBeChosenThrows)
+TEST_F(HostedEditorTest, WhatIsNotThereOrCannotBeChosenThrows)
 {
     Open();
-    OptionsUser editorUser(Tool());
+    HostedEditor& editorUser = Tool();
     const auto failure = [](auto&& step) {
         try {
             step();

@@ -1,7 +1,6 @@
 // The options editor beside the schedule, and closing with something unsaved.
 
 #include "ShownProject.h"
-#include "host/tools/OptionsUser.h"
 
 #include <QAbstractItemView>
 
@@ -21,8 +20,8 @@ struct ProjectWindowOptions : ShownProject
     /// Takes the check of a data item away, so that the schedule does not show it, or gives it back.
     void Toggle(const char* item)
     {
-        OptionsUser(*window->Options()).SelectGroup("Design");
-        OptionsUser(*window->Options()).SelectItem(item);
+        window->Options()->SelectGroup("Design");
+        window->Options()->SelectItem(item);
         auto* items = window->Options()->Widget().findChild<QAbstractItemView*>(QStringLiteral("lstItems"));
         QTest::keyClick(items, Qt::Key_Space);
         ASSERT_TRUE(window->Options()->HasUnsavedEdits());

@@ -219,7 +219,7 @@ TEST_F(ProjectWindowTest, PrintWhilePickingPrintsTheSchedule)
         previewed = true;
         dialog.reject();
     });
-    ScheduleUser(View()).Tick("P-1");
+    View().Tick("P-1");
     Trigger("btnPrint");
     EXPECT_TRUE(QTest::qWaitFor([&] { return previewed; }));
     EXPECT_FALSE(ShowsSelector());

@@ -3,7 +3,6 @@
 #include "host/answers/SmallProject.h"
 #include "host/tools/HostedEditor.h"
 #include "host/tools/HostedSchedule.h"
-#include "host/tools/ScheduleUser.h"
 #include "host/tools/Session.h"
 #include "host/window/ProjectWindow.h"
 #include "spread/Sheet.h"
@@ -74,17 +73,14 @@ protected:
     /// Ticks tags and presses Continue; the schedule is there when the click is over.
     void Pick(const QStringList& tags)
     {
-        {
-            ScheduleUser picker(View());
-            for (const QString& tag : tags)
-                picker.Tick(tag);
-            picker.PressContinue();
-        }
+        for (const QString& tag : tags)
+            View().Tick(tag);
+        View().Continue();
         QCoreApplication::processEvents();
     }
 
-    void Edit(int column, int row, const QString& text) { ScheduleUser(View()).Edit({column, row, text}); }
-    void PressSave() { ScheduleUser(View()).PressSave(); }
+    void Edit(int column, int row, const QString& text) { View().Enter({column, row, text}); }
+    void PressSave() { View().Save(); }
 
     void Press(const QWidget& in, const char* name)
     {

@@ -10,7 +10,6 @@
 #include "host/import/SampleProject.h"
 #include "host/project/StoredProject.h"
 #include "host/tools/HostedEditor.h"
-#include "host/tools/OptionsUser.h"
 #include "support/ModalDialog.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TraceLog.h"
@@ -74,7 +73,7 @@ public:
     QString Save() override
     {
         if (m_format == "png")
-            return FailureOf([&] { WritePng(PictureOf(m_tool->Tool().Widget(), "Air"), m_fileName); });
+            return FailureOf([&] { WritePng(PictureOf(m_tool->Tool(), "Air"), m_fileName); });
         if (m_format == "pdf")
             return m_tool->Tool().WritePdf(m_fileName, true, QPageSize::A4);
         return m_tool->Tool().WriteFile(m_format, m_fileName);
@@ -228,14 +227,14 @@ private:
         m_editor.emplace(m_session->Router(), &m_user);
         m_editor->Widget().show();
         m_editor->Open();
-        OptionsUser(*m_editor).SelectGroup("Motor");
+        m_editor->SelectGroup("Motor");
         auto* groups = m_editor->Widget().findChild<QAbstractItemView*>("lstGroups");
         QTest::keyClick(groups, Qt::Key_Space);
         EXPECT_TRUE(m_editor->HasUnsavedEdits());
         EXPECT_EQ(m_user.TakeReports(), QStringList());
     }
 
-    virtual void Press() { EXPECT_TRUE(m_editor->PressApply()); }
+    virtual void Press() { EXPECT_TRUE(m_editor->Apply()); }
 
     ConsoleUserInterface m_user;
     QString m_told;

@@ -5,7 +5,6 @@
 #include "host/files/XmlFile.h"
 #include "host/tools/HostedEditor.h"
 #include "host/tools/HostedSchedule.h"
-#include "host/tools/ScheduleUser.h"
 #include "support/FakeHost.h"
 #include "support/ScriptedUserInterface.h"
 
@@ -41,7 +40,7 @@ void WorkOnSchedule(testing::FakeHost& router, testing::ScriptedUserInterface& u
     HostedSchedule tool(router, &user, {});
     tool.Widget().setProperty("CustomMsg", ReadXmlFile(In("message.txt")));
     tool.Load(ReadXmlFile(In("table.xml")));
-    ScheduleUser(tool).Edit({1, 1, QStringLiteral("20")});
+    tool.Enter({1, 1, QStringLiteral("20")});
     tool.Widget().setAttribute(Qt::WA_DontShowOnScreen, false);
     tool.Widget().hide();
     tool.Widget().show();
@@ -65,7 +64,7 @@ void WorkOnTemplates(testing::FakeHost& router, testing::ScriptedUserInterface& 
     QKeyEvent press(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier);
     QCoreApplication::sendEvent(groups, &press);
     Require(editor.HasUnsavedEdits(), "nothing was edited");
-    Require(editor.PressApply() && !editor.HasUnsavedEdits(), "nothing was applied");
+    Require(editor.Apply() && !editor.HasUnsavedEdits(), "nothing was applied");
 }
 
 int Work()
