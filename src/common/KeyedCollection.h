@@ -1,28 +1,15 @@
 #pragma once
 
 #include "common/Error.h"
-#include "common/MemberId.h"
+#include "common/MemberIndexes.h"
 #include "common/MemberKey.h"
 #include "common/PieceList.h"
 
 #include <memory>
 #include <optional>
-#include <unordered_map>
 #include <vector>
 
 namespace schedules {
-
-/// The form in which keys are compared: case folded, character by character.
-QString FoldedKey(const QString& key);
-
-/// Members that can be found by a number, which may change while they are in a collection.
-template <class Member>
-concept Identified = requires(const Member& member)
-{
-    {
-        member.Identity()
-        } -> std::same_as<const MemberId&>;
-};
 
 /// Members in an order, each under a key; keys are compared without regard to case. A member is shared with whoever
 /// holds it, so one that is removed and added again is the same object. What a member's key is, is said when it is
@@ -61,16 +48,16 @@ public:
     /// The first in order with that number.
     Pointer ItemById(int id) const noexcept requires Identified<Member>
     {
-        const Node* node = FindOrNothing([&] { return NodeOfId(id); });
+        const Node* node = FindOrNothing([&] { return m_ids.Find(id, m_order); });
         return node ? node->element.member : Pointer();
     }
 
     std::optional<Position> PlaceOfId(int id) const noexcept requires Identified<Member>
     {
-        return PlaceOfNode(FindOrNothing([&] { return NodeOfId(id); }));
+        return PlaceOfNode(FindOrNothing([&] { return m_ids.Find(id, m_order); }));
     }
 
-    /// All of them in order, as they are now: what is changed while somebody walks over them does not disturb him.
+    /// All of them in order, as they are now. The collection may be changed while somebody walks over them.
     std::vector<Pointer> Members() const
     {
         std::vector<Pointer> members;
@@ -100,8 +87,9 @@ public:
             return false;
         const bool isLast = place.Index() == m_order.Size();
         const Node& node = m_order.Insert(place.Index(), {key, std::move(member)});
-        IndexKey(node);
-        IndexId(node, isLast);
+        m_keys.Add(node);
+        if constexpr (Identified<Member>)
+            m_ids.Add(node, isLast);
         return true;
     }
 
@@ -157,19 +145,7 @@ private:
     {
         if (m_order.Size() <= kMostWithoutIndex)
             return NodeByComparing(name);
-        LearnKeys();
-        const auto found = m_byKey.find(FoldedKey(name));
-        return found == m_byKey.end() ? nullptr : found->second;
-    }
-
-    void LearnKeys() const
-    {
-        if (!m_byKey.empty())
-            return;
-        std::unordered_map<QString, const Node*> byKey;
-        for (const Node& node : m_order)
-            byKey.emplace(FoldedKey(node.element.key), &node);
-        m_byKey = std::move(byKey);
+        return m_keys.Find(name, m_order);
     }
 
     /// Folding does not change how long a key is.
@@ -183,79 +159,18 @@ private:
         return nullptr;
     }
 
-    const Node* NodeOfId(int id) const
-    {
-        LearnIds();
-        const auto found = m_byId.find(id);
-        return found == m_byId.end() ? nullptr : found->second;
-    }
-
-    void LearnIds() const
-    {
-        if (!m_idsKnown)
-            m_idsKnown = std::make_shared<bool>(false);
-        if (*m_idsKnown)
-            return;
-        m_byId.clear();
-        for (const Node& node : m_order)
-            LearnId(node);
-        *m_idsKnown = true;
-    }
-
-    /// Whether no member before it has the same number.
-    bool LearnId(const Node& node) const
-    {
-        const MemberId& id = node.element.member->Identity();
-        id.ForgetOnWrite(m_idsKnown);
-        return m_byId.emplace(id.Value(), &node).second;
-    }
-
-    /// An index that cannot take the node in is made anew when it is needed.
-    void IndexKey(const Node& node) noexcept
-    {
-        bool isIndexed = m_byKey.empty();
-        IgnoringErrors([&] { isIndexed = isIndexed || m_byKey.emplace(FoldedKey(node.element.key), &node).second; });
-        if (!isIndexed)
-            m_byKey.clear();
-    }
-
-    void IndexId(const Node& node, bool isLast) noexcept
-    {
-        if constexpr (Identified<Member>) {
-            if (!m_idsKnown || !*m_idsKnown)
-                return;
-            bool isIndexed = false;
-            IgnoringErrors([&] { isIndexed = LearnId(node) || isLast; });
-            *m_idsKnown = isIndexed;
-        }
-    }
-
     void RemoveNode(const Node& node)
     {
-        ForgetId(node);
-        if (!m_byKey.empty())
-            m_byKey.erase(FoldedKey(node.element.key));
+        if constexpr (Identified<Member>)
+            m_ids.Remove(node, m_order.Size());
+        m_keys.Remove(node);
         const Pointer member = node.element.member; // ends after the collection is in order again
         m_order.Remove(node);
     }
 
-    void ForgetId(const Node& node)
-    {
-        if constexpr (Identified<Member>) {
-            if (!m_idsKnown || !*m_idsKnown)
-                return;
-            const bool allDiffer = m_byId.size() == m_order.Size();
-            const auto found = m_byId.find(node.element.member->Identity().Value());
-            if (found->second == &node)
-                m_byId.erase(found);
-            *m_idsKnown = allDiffer;
-        }
-    }
-
     PieceList<Entry> m_order;
-    mutable std::unordered_map<QString, const Node*> m_byKey; ///< empty until it is needed
-    mutable std::unordered_map<int, const Node*> m_byId;
-    mutable std::shared_ptr<bool> m_idsKnown; ///< whether `m_byId` is right; nothing until it is needed
+    mutable KeyIndex<Node> m_keys;
+    mutable IdIndex<Node> m_ids;
 };
 
 } // namespace schedules
