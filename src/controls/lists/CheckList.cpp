@@ -3,6 +3,7 @@
 #include "controls/lists/CheckListDelegate.h"
 #include "controls/lists/CheckListModel.h"
 
+#include <QMouseEvent>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -21,10 +22,30 @@ int VisibleHeight(const CheckList& list)
     return std::min(list.height() - less, list.viewport()->height());
 }
 
+constexpr Qt::Key kKeysToFirst[] = {Qt::Key_Up, Qt::Key_Down, Qt::Key_Home, Qt::Key_PageUp};
+
+Qt::KeyboardModifiers ModifiersOf(const QKeyEvent& event)
+{
+    return event.modifiers() & ~Qt::KeypadModifier;
+}
+
+/// -1 for the key that moves an entry up, 1 for the one that moves it down, else 0.
+int MoveStepOf(const QKeyEvent& event)
+{
+    if (ModifiersOf(event) != Qt::AltModifier)
+        return 0;
+    return event.key() == Qt::Key_Up ? -1 : event.key() == Qt::Key_Down ? 1 : 0;
+}
+
+bool ChecksEntry(const QKeyEvent& event)
+{
+    return !ModifiersOf(event) && (event.key() == Qt::Key_Space || event.key() == Qt::Key_Select);
+}
+
 } // namespace
 
 CheckList::CheckList(QWidget* parent)
-    : QListView(parent), m_entries(new CheckListModel(this)), m_delegate(new CheckListDelegate(this))
+    : QListView(parent), m_entries(new CheckListModel(this)), m_delegate(new CheckListDelegate(this)), m_mouse(*this)
 {
     setModel(m_entries);
     setItemDelegate(m_delegate);
@@ -50,7 +71,7 @@ void CheckList::AddEntry(const QString& text, int id, std::optional<bool> checke
 
 void CheckList::Clear()
 {
-    EndDrag();
+    m_mouse.End();
     Quietly([&] { m_entries->Clear(); });
 }
 
@@ -99,7 +120,7 @@ int CheckList::CurrentRow() const
 
 void CheckList::SetCurrentRow(int row)
 {
-    CancelDrag();
+    m_mouse.Cancel();
     Select(row, Scrolling::Yes);
 }
 
@@ -107,7 +128,7 @@ void CheckList::MoveEntry(int from, int to)
 {
     if (!m_entries->Has(from) || !m_entries->Has(to))
         return;
-    CancelDrag();
+    m_mouse.Cancel();
     const int selected = CurrentRow();
     m_entries->Move(from, to);
     // A hidden list scrolls to what is selected when it is shown.
@@ -127,12 +148,12 @@ void CheckList::SetMovable(bool movable)
 {
     m_movable = movable;
     if (!movable)
-        CancelDrag();
+        m_mouse.Cancel();
 }
 
 void CheckList::ShowOnly(const QString& containing)
 {
-    CancelDrag();
+    m_mouse.Cancel();
     m_containing = containing;
     Narrow(0, Count() - 1);
     if (!IsNarrowed() && CurrentRow() >= 0)
@@ -184,6 +205,154 @@ void CheckList::KeepVisible(int row)
     const int shown = std::max(VisibleHeight(*this) / height, 1);
     QScrollBar& top = *verticalScrollBar();
     top.setValue(std::clamp(top.value(), row - shown + 1, row));
+}
+
+bool CheckList::event(QEvent* event)
+{
+    const bool isEscape =
+        event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
+    if (!isEscape || !m_mouse.IsDragging())
+        return QListView::event(event);
+    event->accept();
+    return true;
+}
+
+void CheckList::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::EnabledChange && !isEnabled())
+        m_mouse.Cancel();
+    QListView::changeEvent(event);
+}
+
+void CheckList::hideEvent(QHideEvent* event)
+{
+    m_mouse.Cancel();
+    QListView::hideEvent(event);
+}
+
+void CheckList::focusOutEvent(QFocusEvent* event)
+{
+    m_mouse.Cancel();
+    QListView::focusOutEvent(event);
+}
+
+void CheckList::keyPressEvent(QKeyEvent* event)
+{
+    event->accept();
+    if (m_mouse.IsDragging())
+        return PressKeyWhileDragging(*event);
+    m_mouse.End();
+    if (const int step = MoveStepOf(*event))
+        return RequestMove(step);
+    return ChecksEntry(*event) ? ToggleByKey() : PressOtherKey(event);
+}
+
+void CheckList::PressKeyWhileDragging(const QKeyEvent& event)
+{
+    if (event.key() == Qt::Key_Escape)
+        m_mouse.Cancel();
+}
+
+void CheckList::RequestMove(int step)
+{
+    const int row = CurrentRow();
+    if (MayMove() && row >= 0 && m_entries->Has(row + step))
+        Q_EMIT MoveRequested(row, row + step);
+}
+
+void CheckList::ToggleByKey()
+{
+    const int selected = CurrentRow();
+    const int row = selected >= 0 ? selected : currentIndex().row();
+    if (row < 0 || isRowHidden(row))
+        return;
+    if (SelectMark(row) || row != selected)
+        Q_EMIT Clicked();
+}
+
+bool CheckList::SelectMark(int row)
+{
+    Select(row, Scrolling::No);
+    const std::optional<bool> checked = m_entries->At(row).checked;
+    if (checked)
+        m_entries->SetChecked(row, !*checked);
+    return checked.has_value();
+}
+
+void CheckList::PressOtherKey(QKeyEvent* event)
+{
+    const int before = CurrentRow();
+    const int focused = currentIndex().row();
+    const bool goesToFirst = std::ranges::count(kKeysToFirst, event->key()) > 0;
+    if (before < 0 && focused >= 0 && !isRowHidden(focused) && goesToFirst)
+        Select(focused, Scrolling::Yes);
+    else
+        Quietly([&] { QListView::keyPressEvent(event); });
+    if (CurrentRow() != before)
+        Q_EMIT Clicked();
+}
+
+QModelIndex CheckList::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    const int row = currentIndex().row();
+    if (row < 0 || !isRowHidden(row))
+        return QListView::moveCursor(action, modifiers);
+    const bool goesUp = action == MoveUp || action == MovePrevious || action == MovePageUp || action == MoveHome;
+    const int step = goesUp ? -1 : 1;
+    const int next = NearestShown(row, step);
+    return IndexOf(next >= 0 ? next : NearestShown(row, -step));
+}
+
+int CheckList::NearestShown(int row, int step) const
+{
+    while (m_entries->Has(row) && isRowHidden(row))
+        row += step;
+    return m_entries->Has(row) ? row : -1;
+}
+
+QItemSelectionModel::SelectionFlags CheckList::selectionCommand(const QModelIndex& index, const QEvent*) const
+{
+    return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
+}
+
+int CheckList::MarkAt(QPoint point) const
+{
+    const QModelIndex index = indexAt(point);
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    option.rect = visualRect(index);
+    return index.isValid() && m_delegate->MarkRect(option, index).contains(point) ? index.row() : -1;
+}
+
+QRect CheckList::RectOf(int row) const
+{
+    return visualRect(IndexOf(row));
+}
+
+void CheckList::mousePressEvent(QMouseEvent* event)
+{
+    m_mouse.Press(*event);
+}
+
+void CheckList::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    m_mouse.Press(*event);
+}
+
+void CheckList::mouseMoveEvent(QMouseEvent* event)
+{
+    m_mouse.Move(*event);
+}
+
+void CheckList::mouseReleaseEvent(QMouseEvent* event)
+{
+    m_mouse.Release(*event);
+}
+
+void CheckList::paintEvent(QPaintEvent* event)
+{
+    QListView::paintEvent(event);
+    m_mouse.PaintDrag();
 }
 
 } // namespace schedules

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "controls/lists/CheckListDrag.h"
+#include "controls/lists/CheckListMouse.h"
 
-#include <QBasicTimer>
 #include <QListView>
 #include <QScopedValueRollback>
 
@@ -51,6 +50,24 @@ public:
     int CurrentRow() const;
     void SetCurrentRow(int row);
 
+    enum class Scrolling
+    {
+        Yes,
+        No
+    };
+
+    /// Selects an entry; a drag goes on.
+    void Select(int row, Scrolling scrolling);
+
+    /// Selects the entry and changes its mark. Returns whether that can be changed.
+    bool SelectMark(int row);
+
+    /// The row whose mark is at a point of the viewport; -1 for none.
+    int MarkAt(QPoint point) const;
+
+    /// Where an entry is in the viewport.
+    QRect RectOf(int row) const;
+
     /// Moves an entry to another row, the list staying as it is otherwise: what was selected stays selected, and the
     /// moved entry is visible, for which the list scrolls as little as possible. Nothing when a row is not there.
     void MoveEntry(int from, int to);
@@ -60,6 +77,7 @@ public:
 
     /// Whether the user may move entries. On at first; off in any case while the list is narrowed.
     void SetMovable(bool movable);
+    bool MayMove() const { return m_movable && !IsNarrowed(); }
 
     /// Hides all entries whose text does not contain that one, without regard to case; also those that come later. An
     /// empty text shows all. A hidden entry stays selected.
@@ -86,7 +104,6 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
-    void timerEvent(QTimerEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void dataChanged(const QModelIndex& first, const QModelIndex& last, const QList<int>& roles) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
@@ -100,41 +117,21 @@ private:
         action();
     }
 
-    enum class Scrolling
-    {
-        Yes,
-        No
-    };
-    void Select(int row, Scrolling scrolling);
-
     QModelIndex IndexOf(int row) const;
-    int MarkAt(QPoint point) const;
     void KeepVisible(int row);
     void Narrow(int first, int last);
     int NearestShown(int row, int step) const;
-    bool MayMove() const { return m_movable && !IsNarrowed(); }
-
-    bool IsDragging() const { return m_drag && m_drag->started; }
-    void DragTo(QPoint point);
-    void ScrollNearEdges();
-    void CancelDrag();
-    void Drop(const CheckListDrag& drag, int target);
-    CheckListDrag EndDrag();
-    void PaintDrag();
-
     void PressKeyWhileDragging(const QKeyEvent& event);
     void RequestMove(int step);
     void ToggleByKey();
     void PressOtherKey(QKeyEvent* event);
-    bool SelectMark(int row);
 
     CheckListModel* m_entries;
     CheckListDelegate* m_delegate;
     QString m_containing;
     bool m_movable = true;
     bool m_quiet = false; ///< what is selected now need not be told
-    std::optional<CheckListDrag> m_drag;
-    QBasicTimer m_scrollTimer;
+    CheckListMouse m_mouse;
 };
 
 } // namespace schedules
