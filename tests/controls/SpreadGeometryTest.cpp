@@ -39,10 +39,10 @@ TEST(SpreadGeometry, RightToLeftMirrorsColumns)
     const SpreadGeometry geometry(*sheet, Window(Qt::RightToLeft));
     EXPECT_EQ(geometry.RectOf({0, 0}), QRect(304, 0, 96, 20));
     EXPECT_EQ(geometry.RectOf({2, 3}), QRect(112, 60, 96, 20));
-    EXPECT_EQ(geometry.PlaceAt({399, 0}), (Place{0, 0}));
-    EXPECT_EQ(geometry.PlaceAt({112, 79}), (Place{2, 3}));
-    EXPECT_EQ(geometry.PlaceAt({207, 60}), (Place{2, 3}));
-    EXPECT_EQ(geometry.PlaceAt({208, 60}), (Place{1, 3}));
+    EXPECT_EQ(geometry.PlaceAt({399, 0}), (ShownPlace{0, 0}));
+    EXPECT_EQ(geometry.PlaceAt({112, 79}), (ShownPlace{2, 3}));
+    EXPECT_EQ(geometry.PlaceAt({207, 60}), (ShownPlace{2, 3}));
+    EXPECT_EQ(geometry.PlaceAt({208, 60}), (ShownPlace{1, 3}));
 }
 
 TEST(SpreadGeometry, ResolutionsOfBothDirectionsCount)
@@ -75,7 +75,7 @@ TEST(SpreadGeometry, NoPlaceIsBesideTheData)
     const SpreadGeometry geometry(*sheet, Window());
     EXPECT_EQ(geometry.PlaceAt({192, 5}), std::nullopt);
     EXPECT_EQ(geometry.PlaceAt({5, 40}), std::nullopt);
-    EXPECT_EQ(geometry.PlaceAt({191, 39}), (Place{1, 1}));
+    EXPECT_EQ(geometry.PlaceAt({191, 39}), (ShownPlace{1, 1}));
 }
 
 TEST(SpreadGeometry, ScrolledCellsAreCutOffByFrozenOnes)

@@ -23,11 +23,11 @@ TEST(SpreadSelection, ReachesFromTheActiveCellToItsCornerInAnyDirection)
     const auto sheet = NumberedSheet(5, 5);
     SpreadSelection selection;
     sheet->SetActiveCell(At(4, 2));
-    EXPECT_EQ(selection.Block(*sheet), (PlaceBlock{{4, 2}, {4, 2}}));
+    EXPECT_EQ(selection.Block(*sheet), (ShownBlock{{4, 2}, {4, 2}}));
     selection.ExtendTo(At(2, 5));
-    EXPECT_EQ(selection.Block(*sheet), (PlaceBlock{{2, 2}, {4, 5}}));
+    EXPECT_EQ(selection.Block(*sheet), (ShownBlock{{2, 2}, {4, 5}}));
     selection.Collapse();
-    EXPECT_EQ(selection.Block(*sheet), (PlaceBlock{{4, 2}, {4, 2}}));
+    EXPECT_EQ(selection.Block(*sheet), (ShownBlock{{4, 2}, {4, 2}}));
 }
 
 TEST(SpreadSelection, IsAsShownNotAsNumbered)
@@ -47,7 +47,7 @@ TEST(SpreadSelection, ACornerThatHasGoneLeavesTheActiveCell)
     sheet->SetActiveCell(At(2, 2));
     selection.ExtendTo(At(5, 5));
     sheet->SetSize(3, 3);
-    EXPECT_EQ(selection.Block(*sheet), (PlaceBlock{{2, 2}, {2, 2}}));
+    EXPECT_EQ(selection.Block(*sheet), (ShownBlock{{2, 2}, {2, 2}}));
 }
 
 TEST(SpreadSelection, TextHasTabsAndLineFeedsAndNoHiddenCells)

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "controls/cells/Place.h"
 #include "spread/CellEdge.h"
+#include "spread/Sheet.h"
 
 #include <QString>
 
@@ -22,8 +22,8 @@ struct CellContent
     bool bold = false;
     bool wraps = false;
 
-    bool IsCheckBox() const { return style.type == CellType::CheckBox; }
-    bool Ticked() const { return IsCheckBox() && text == QLatin1String("1"); }
+    const CellKind& Kind() const { return KindOf(style); }
+    bool Ticked() const { return IsTicked(style, std::string_view(text.toUtf8())); }
 };
 
 CellContent ContentOf(const Sheet& sheet, Cell cell);

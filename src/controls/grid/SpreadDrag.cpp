@@ -38,24 +38,24 @@ std::vector<int> VisibleBetween(const Axis& axis, int one, int other)
 
 } // namespace
 
-std::optional<Place> SpreadDrag::CornerAt(QPoint point, const SpreadGeometry& geometry, const Sheet& sheet) const
+std::optional<ShownPlace> SpreadDrag::CornerAt(QPoint point, const SpreadGeometry& geometry, const Sheet& sheet) const
 {
-    const Place first = FirstPlace(sheet);
-    const Place last = LastPlace(sheet);
+    const ShownPlace first = FirstPlace(sheet);
+    const ShownPlace last = LastPlace(sheet);
     const int column = PositionNear(geometry.Columns(), from.column, geometry.FromStart(point.x()));
     const int row = PositionNear(geometry.Rows(), from.row, point.y());
-    const Place corner{ByRows() ? last.column : std::max(column, first.column),
-                       ByColumns() ? last.row : std::max(row, first.row)};
+    const ShownPlace corner{ByRows() ? last.column : std::max(column, first.column),
+                            ByColumns() ? last.row : std::max(row, first.row)};
     return HoldsData(sheet, corner) ? std::optional(corner) : std::nullopt;
 }
 
-std::vector<Cell> SpreadDrag::CellsTo(Place place, const Sheet& sheet) const
+std::vector<Cell> SpreadDrag::CellsTo(ShownPlace place, const Sheet& sheet) const
 {
     std::vector<Cell> cells;
     const std::vector<int> columns = VisibleBetween(sheet.Columns(), swept.column, place.column);
     for (const int row : VisibleBetween(sheet.Rows(), swept.row, place.row)) {
         for (const int column : columns) {
-            if (Place{column, row} != swept)
+            if (ShownPlace{column, row} != swept)
                 cells.push_back(CellOf(sheet, {column, row}));
         }
     }

@@ -9,25 +9,25 @@ SpreadGeometry::SpreadGeometry(const Sheet& sheet, const SheetWindow& window)
 {
 }
 
-QRect SpreadGeometry::RectOf(Place place) const
+QRect SpreadGeometry::RectOf(ShownPlace place) const
 {
     return Rect(m_columns.SpanOf(place.column), m_rows.SpanOf(place.row));
 }
 
-QRect SpreadGeometry::SeenRectOf(Place place) const
+QRect SpreadGeometry::SeenRectOf(ShownPlace place) const
 {
     return Rect(m_columns.SeenSpanOf(place.column), m_rows.SeenSpanOf(place.row));
 }
 
-std::optional<Place> SpreadGeometry::PlaceAt(QPoint point) const
+std::optional<ShownPlace> SpreadGeometry::PlaceAt(QPoint point) const
 {
-    const Place place{m_columns.PositionAt(FromStart(point.x())), m_rows.PositionAt(point.y())};
+    const ShownPlace place{m_columns.PositionAt(FromStart(point.x())), m_rows.PositionAt(point.y())};
     return place.column >= 0 && place.row >= 0 ? std::optional(place) : std::nullopt;
 }
 
-std::optional<Place> SpreadGeometry::PlaceNearestTo(QPoint point) const
+std::optional<ShownPlace> SpreadGeometry::PlaceNearestTo(QPoint point) const
 {
-    const Place place{m_columns.NearestTo(FromStart(point.x())), m_rows.NearestTo(point.y())};
+    const ShownPlace place{m_columns.NearestTo(FromStart(point.x())), m_rows.NearestTo(point.y())};
     return place.column >= 0 && place.row >= 0 ? std::optional(place) : std::nullopt;
 }
 

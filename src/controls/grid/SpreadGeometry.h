@@ -1,7 +1,7 @@
 #pragma once
 
-#include "controls/cells/Place.h"
 #include "controls/grid/AxisLayout.h"
+#include "controls/grid/ShownPlace.h"
 
 #include <QPoint>
 #include <QRect>
@@ -35,15 +35,15 @@ public:
     bool Mirrored() const { return m_direction == Qt::RightToLeft; }
 
     /// The whole rectangle of a cell, which may lie outside of the window; empty for a hidden one.
-    QRect RectOf(Place place) const;
+    QRect RectOf(ShownPlace place) const;
 
     /// The part of it that is seen.
-    QRect SeenRectOf(Place place) const;
+    QRect SeenRectOf(ShownPlace place) const;
 
-    std::optional<Place> PlaceAt(QPoint point) const;
+    std::optional<ShownPlace> PlaceAt(QPoint point) const;
 
     /// The visible place nearest to a point; nothing when there is none.
-    std::optional<Place> PlaceNearestTo(QPoint point) const;
+    std::optional<ShownPlace> PlaceNearestTo(QPoint point) const;
 
     /// The four panes: what stays in place, what scrolls in one direction each, and what scrolls in both.
     std::array<QRect, 4> Panes() const;

@@ -44,34 +44,34 @@ int EdgeFrom(const Axis& axis, int from, int step, Filled filled)
     return StepFrom(axis, gapEnd, step);
 }
 
-Place ColumnStep(const Standpoint& from, int step)
+ShownPlace ColumnStep(const Standpoint& from, int step)
 {
     return {StepFrom(from.sheet.Columns(), from.place.column, step), from.place.row};
 }
 
-Place RowStep(const Standpoint& from, int step)
+ShownPlace RowStep(const Standpoint& from, int step)
 {
     return {from.place.column, StepFrom(from.sheet.Rows(), from.place.row, step)};
 }
 
-bool IsFilled(const Sheet& sheet, Place place)
+bool IsFilled(const Sheet& sheet, ShownPlace place)
 {
     return !sheet.Utf8(CellOf(sheet, place)).empty();
 }
 
-Place ColumnEdge(const Standpoint& from, int step)
+ShownPlace ColumnEdge(const Standpoint& from, int step)
 {
     const auto filled = [&](int column) { return IsFilled(from.sheet, {column, from.place.row}); };
     return {EdgeFrom(from.sheet.Columns(), from.place.column, step, filled), from.place.row};
 }
 
-Place RowEdge(const Standpoint& from, int step)
+ShownPlace RowEdge(const Standpoint& from, int step)
 {
     const auto filled = [&](int row) { return IsFilled(from.sheet, {from.place.column, row}); };
     return {from.place.column, EdgeFrom(from.sheet.Rows(), from.place.row, step, filled)};
 }
 
-Place PageStep(const Standpoint& from, int step)
+ShownPlace PageStep(const Standpoint& from, int step)
 {
     const Axis& axis = from.sheet.Rows();
     const AxisLayout& rows = from.geometry.Rows();
@@ -81,59 +81,59 @@ Place PageStep(const Standpoint& from, int step)
     return {from.place.column, GoWhile(axis, atLeast, step, withinPage)};
 }
 
-Place Back(const Standpoint& from)
+ShownPlace Back(const Standpoint& from)
 {
     return ColumnStep(from, -1);
 }
-Place Forward(const Standpoint& from)
+ShownPlace Forward(const Standpoint& from)
 {
     return ColumnStep(from, 1);
 }
-Place Up(const Standpoint& from)
+ShownPlace Up(const Standpoint& from)
 {
     return RowStep(from, -1);
 }
-Place Down(const Standpoint& from)
+ShownPlace Down(const Standpoint& from)
 {
     return RowStep(from, 1);
 }
-Place BackToEdge(const Standpoint& from)
+ShownPlace BackToEdge(const Standpoint& from)
 {
     return ColumnEdge(from, -1);
 }
-Place ForwardToEdge(const Standpoint& from)
+ShownPlace ForwardToEdge(const Standpoint& from)
 {
     return ColumnEdge(from, 1);
 }
-Place UpToEdge(const Standpoint& from)
+ShownPlace UpToEdge(const Standpoint& from)
 {
     return RowEdge(from, -1);
 }
-Place DownToEdge(const Standpoint& from)
+ShownPlace DownToEdge(const Standpoint& from)
 {
     return RowEdge(from, 1);
 }
-Place PageUp(const Standpoint& from)
+ShownPlace PageUp(const Standpoint& from)
 {
     return PageStep(from, -1);
 }
-Place PageDown(const Standpoint& from)
+ShownPlace PageDown(const Standpoint& from)
 {
     return PageStep(from, 1);
 }
-Place RowStart(const Standpoint& from)
+ShownPlace RowStart(const Standpoint& from)
 {
     return {FirstPlace(from.sheet).column, from.place.row};
 }
-Place RowEnd(const Standpoint& from)
+ShownPlace RowEnd(const Standpoint& from)
 {
     return {LastPlace(from.sheet).column, from.place.row};
 }
-Place SheetStart(const Standpoint& from)
+ShownPlace SheetStart(const Standpoint& from)
 {
     return FirstPlace(from.sheet);
 }
-Place SheetEnd(const Standpoint& from)
+ShownPlace SheetEnd(const Standpoint& from)
 {
     return LastPlace(from.sheet);
 }
@@ -177,12 +177,12 @@ bool IsPageMove(Move move)
     return move == PageUp || move == PageDown;
 }
 
-Place FirstPlace(const Sheet& sheet)
+ShownPlace FirstPlace(const Sheet& sheet)
 {
     return {FirstOf(sheet.Columns()), FirstOf(sheet.Rows())};
 }
 
-Place LastPlace(const Sheet& sheet)
+ShownPlace LastPlace(const Sheet& sheet)
 {
     return {LastOf(sheet.Columns()), LastOf(sheet.Rows())};
 }

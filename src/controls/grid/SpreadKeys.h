@@ -11,12 +11,12 @@ struct Standpoint
 {
     const Sheet& sheet;
     const SpreadGeometry& geometry;
-    Place place;
+    ShownPlace place;
 };
 
 /// A key that moves. Where there is nothing to move to, a move stays where it is; hidden columns and rows are skipped,
 /// and headers are never reached.
-using Move = Place (*)(const Standpoint&);
+using Move = ShownPlace (*)(const Standpoint&);
 
 /// The move that a key stands for, Shift left aside; none for other keys. Left and right are meant as seen, so they
 /// change their parts where the sheet runs from right to left.
@@ -26,9 +26,9 @@ Move MoveOf(const QKeyEvent& key, bool mirrored);
 bool IsPageMove(Move move);
 
 /// The first data cell that is visible; the header corner when there is none.
-Place FirstPlace(const Sheet& sheet);
+ShownPlace FirstPlace(const Sheet& sheet);
 
 /// The last one.
-Place LastPlace(const Sheet& sheet);
+ShownPlace LastPlace(const Sheet& sheet);
 
 } // namespace schedules

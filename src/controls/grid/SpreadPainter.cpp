@@ -114,7 +114,7 @@ std::vector<SpreadPainter::ShownCell> SpreadPainter::CellsOf(const Track& row, c
     return cells;
 }
 
-QColor SpreadPainter::OwnGroundOf(Place place, const CellContent& content) const
+QColor SpreadPainter::OwnGroundOf(ShownPlace place, const CellContent& content) const
 {
     const bool isHeader = place.column == 0 || place.row == 0;
     const QColor plain = m_cells.GroundOf(content, m_look.palette.color(isHeader ? QPalette::Button : QPalette::Base));
@@ -122,18 +122,18 @@ QColor SpreadPainter::OwnGroundOf(Place place, const CellContent& content) const
     return isTinted ? Blend(plain, m_look.palette.color(QPalette::Highlight), kEditableShare) : plain;
 }
 
-QColor SpreadPainter::GroundOf(Place place, const CellContent& content) const
+QColor SpreadPainter::GroundOf(ShownPlace place, const CellContent& content) const
 {
     const QColor own = OwnGroundOf(place, content);
     const double share = SelectedShareOf(place);
     return share > 0 ? Blend(own, m_look.palette.color(QPalette::Highlight), share) : own;
 }
 
-double SpreadPainter::SelectedShareOf(Place place) const
+double SpreadPainter::SelectedShareOf(ShownPlace place) const
 {
     if (!m_selection || place == m_selection->active)
         return 0;
-    const PlaceBlock& block = m_selection->block;
+    const ShownBlock& block = m_selection->block;
     if (block.Contains(place))
         return kSelectedShare;
     const bool headsSelection =
@@ -161,7 +161,7 @@ void SpreadPainter::DrawSortArrow()
     if (!m_marks.sort || m_marks.sort->column > Column(m_sheet.ColumnCount()))
         return;
     const Cell header{m_marks.sort->column, Row(0)};
-    const Place place = PlaceOf(m_sheet, header);
+    const ShownPlace place = PlaceOf(m_sheet, header);
     const QColor ground = GroundOf(place, ContentOf(m_sheet, header));
     m_painter.setClipRect(m_geometry.SeenRectOf(place));
     m_triangles.PaintArrow(m_geometry.RectOf(place), m_marks.sort->order,

@@ -12,8 +12,8 @@ namespace schedules {
 /// The user's place in a sheet, as it is painted.
 struct ShownSelection
 {
-    PlaceBlock block;
-    Place active;
+    ShownBlock block;
+    ShownPlace active;
     bool focused = false;
 };
 
@@ -46,9 +46,9 @@ private:
     std::vector<Pane> Panes(const QRect& exposed) const;
     void PaintPane(const Pane& pane);
     std::vector<ShownCell> CellsOf(const Track& row, const Pane& pane) const;
-    QColor OwnGroundOf(Place place, const CellContent& content) const;
-    QColor GroundOf(Place place, const CellContent& content) const;
-    double SelectedShareOf(Place place) const;
+    QColor OwnGroundOf(ShownPlace place, const CellContent& content) const;
+    QColor GroundOf(ShownPlace place, const CellContent& content) const;
+    double SelectedShareOf(ShownPlace place) const;
     void FillGrounds(const std::vector<ShownCell>& cells);
     void DrawCorner(const QRectF& cell, const QColor& ground);
     void DrawSortArrow();

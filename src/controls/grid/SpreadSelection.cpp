@@ -30,15 +30,15 @@ QString Quoted(QString text)
 
 } // namespace
 
-std::optional<PlaceBlock> SpreadSelection::Block(const Sheet& sheet) const
+std::optional<ShownBlock> SpreadSelection::Block(const Sheet& sheet) const
 {
-    const Place active = PlaceOf(sheet, sheet.ActiveCell());
-    const Place corner = PlaceOf(sheet, Corner(sheet));
+    const ShownPlace active = PlaceOf(sheet, sheet.ActiveCell());
+    const ShownPlace corner = PlaceOf(sheet, Corner(sheet));
     if (!HoldsData(sheet, active))
         return std::nullopt;
     if (!HoldsData(sheet, corner))
-        return PlaceBlock{active, active};
-    return PlaceBlock{{std::min(active.column, corner.column), std::min(active.row, corner.row)},
+        return ShownBlock{active, active};
+    return ShownBlock{{std::min(active.column, corner.column), std::min(active.row, corner.row)},
                       {std::max(active.column, corner.column), std::max(active.row, corner.row)}};
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/cells/Place.h"
+#include "controls/grid/ShownPlace.h"
 
 #include <optional>
 
@@ -20,7 +20,7 @@ public:
     Cell Corner(const Sheet& sheet) const { return m_corner.value_or(sheet.ActiveCell()); }
 
     /// Nothing as long as no data cell is active.
-    std::optional<PlaceBlock> Block(const Sheet& sheet) const;
+    std::optional<ShownBlock> Block(const Sheet& sheet) const;
 
     /// What is selected as text: cells parted by tabs, rows ended by line feeds, hidden cells left out. A text that
     /// holds one of these, or a quotation mark, is quoted.

@@ -5,10 +5,13 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScreen>
 #include <QScrollBar>
+#include <QWheelEvent>
 #include <QWindow>
 
 #include <algorithm>
@@ -34,7 +37,8 @@ bool ChangesLayout(QEvent::Type change)
 
 } // namespace
 
-SpreadView::SpreadView(QWidget* parent) : QAbstractScrollArea(parent)
+SpreadView::SpreadView(QWidget* parent)
+    : QAbstractScrollArea(parent), m_mouse(*this, m_selection), m_keyboard(*this, m_selection)
 {
     InstallSpreadViewAccessible();
     setFocusPolicy(Qt::StrongFocus);
@@ -47,7 +51,7 @@ void SpreadView::SetSheet(Sheet* sheet)
         m_sheet->disconnect(this);
     m_sheet = sheet;
     m_selection.Collapse();
-    m_drag.reset();
+    m_mouse.End();
     if (m_sheet) {
         m_sheet->SetFont(font());
         ConnectSheet();
@@ -104,7 +108,7 @@ void SpreadView::EnsureVisible(Cell cell)
     if (!m_sheet)
         return;
     const SpreadGeometry geometry = Geometry();
-    const Place place = PlaceOf(*m_sheet, cell);
+    const ShownPlace place = PlaceOf(*m_sheet, cell);
     horizontalScrollBar()->setValue(geometry.Columns().ScrollToShow(place.column));
     verticalScrollBar()->setValue(geometry.Rows().ScrollToShow(place.row));
 }
@@ -199,7 +203,7 @@ void SpreadView::showEvent(QShowEvent* event)
 void SpreadView::hideEvent(QHideEvent* event)
 {
     QAbstractScrollArea::hideEvent(event);
-    EndDrag();
+    m_mouse.End();
     Q_EMIT CellsMoved();
 }
 
@@ -322,6 +326,58 @@ void SpreadView::Copy() const
     const QString text = m_sheet ? m_selection.Text(*m_sheet) : QString();
     if (!text.isEmpty())
         QGuiApplication::clipboard()->setText(text);
+}
+
+bool SpreadView::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride && SpreadKeyboard::Claims(*static_cast<QKeyEvent*>(event)))
+        event->accept();
+    return QAbstractScrollArea::event(event);
+}
+
+void SpreadView::keyPressEvent(QKeyEvent* event)
+{
+    event->setAccepted(m_keyboard.Press(*event));
+}
+
+void SpreadView::wheelEvent(QWheelEvent* event)
+{
+    const QPoint pixels = event->pixelDelta();
+    if (pixels.isNull()) {
+        QAbstractScrollArea::wheelEvent(event);
+        return;
+    }
+    ScrollBy({isRightToLeft() ? pixels.x() : -pixels.x(), -pixels.y()});
+    event->accept();
+}
+
+void SpreadView::mousePressEvent(QMouseEvent* event)
+{
+    m_mouse.Press(*event);
+}
+
+void SpreadView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    m_mouse.PressAgain(*event);
+}
+
+void SpreadView::mouseMoveEvent(QMouseEvent* event)
+{
+    m_mouse.MoveTo(event->position().toPoint());
+}
+
+void SpreadView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+        m_mouse.Release();
+}
+
+void SpreadView::Click(Cell cell)
+{
+    if (!Shows() || CellRect(cell).isEmpty() || !HoldsData(*m_sheet, PlaceOf(*m_sheet, cell)))
+        return;
+    setFocus(Qt::MouseFocusReason);
+    m_mouse.Click(PlaceOf(*m_sheet, cell));
 }
 
 void SpreadView::Announce(QAccessibleEvent& event)

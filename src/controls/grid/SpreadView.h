@@ -1,15 +1,13 @@
 #pragma once
 
 #include "controls/cells/CellPainter.h"
-#include "controls/grid/SpreadDrag.h"
-#include "controls/grid/SpreadGeometry.h"
-#include "controls/grid/SpreadKeys.h"
+#include "controls/grid/SpreadKeyboard.h"
 #include "controls/grid/SpreadMarks.h"
+#include "controls/grid/SpreadMouse.h"
 #include "controls/grid/SpreadSelection.h"
 
 #include <QAbstractScrollArea>
 #include <QAccessible>
-#include <QBasicTimer>
 #include <QPointer>
 
 #include <functional>
@@ -36,6 +34,12 @@ public:
     void SetSheet(Sheet* sheet);
     Sheet* TheSheet() const { return m_sheet; }
 
+    /// Whether there is a sheet, and may be looked at.
+    bool Shows() const { return m_sheet && m_sheet->Repainting(); }
+
+    /// Where everything is in the viewport. To be asked only with a sheet, for as long as it does not change.
+    SpreadGeometry Geometry() const;
+
     /// Where a cell is in the viewport; it may lie outside or beneath what is frozen. Empty for a hidden one.
     QRect CellRect(Cell cell) const;
 
@@ -48,8 +52,10 @@ public:
     /// Scrolls as little as possible.
     void EnsureVisible(Cell cell);
 
+    void ScrollBy(QPoint pixels);
+
     /// Does what a key that moves the active cell does, without modifiers.
-    void PressMoveKey(Qt::Key key);
+    void PressMoveKey(Qt::Key key) { m_keyboard.PressMoveKey(key); }
 
     /// Gives the focus to the next widget of the window, or the one before.
     void PassFocusOn(bool forward) { focusNextPrevChild(forward); }
@@ -58,6 +64,12 @@ public:
     /// active nothing is selected, and the range is the header corner.
     CellRange Selection() const;
     bool IsSelected(Cell cell) const;
+
+    /// Makes a cell the active one and selects nothing but it.
+    void Activate(Cell cell);
+
+    /// Selects the block from the active cell to another.
+    void ExtendTo(Cell corner);
 
     /// Makes a data cell the active one and selects the block up to another.
     void Select(Cell active, Cell corner);
@@ -77,7 +89,7 @@ public:
 
     /// Asked about a data cell whenever the left button is pressed on it without Shift. If it says yes, the mouse
     /// sweeps over cells until the button is released, instead of selecting them.
-    void SetSweeps(std::function<bool(Cell)> sweeps) { m_sweeps = std::move(sweeps); }
+    void SetSweeps(std::function<bool(Cell)> sweeps) { m_mouse.SetSweeps(std::move(sweeps)); }
 
     /// Does what pressing and releasing the left button on a data cell does; nothing for a hidden one.
     void Click(Cell cell);
@@ -128,12 +140,9 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
-    void timerEvent(QTimerEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
 
 private:
-    bool Shows() const { return m_sheet && m_sheet->Repainting(); }
-    SpreadGeometry Geometry() const;
     CellFaces& Faces();
 
     void ConnectSheet();
@@ -145,29 +154,12 @@ private:
     void OnActiveCellChanged();
     void OnSelectionChanged();
 
-    void GoBy(Move keyMove, bool extend);
-    void Activate(Cell cell);
-    void ExtendTo(Cell corner);
-    void ScrollBy(QPoint pixels);
-
-    void PressCell(Place place, bool extend);
-    void PressHeader(Place place);
-    void DragTo(QPoint point);
-    void ReachTo(Place place);
-    void SweepTo(Place place);
-    void EndDrag();
-    void Release();
-    void TellClick(const SpreadDrag& drag);
-    void TellCellClick(Cell cell, const SpreadDrag& drag);
-
     QPointer<Sheet> m_sheet;
     std::optional<CellFaces> m_faces; ///< made for the sheet's font and the screen when they are needed
     SpreadSelection m_selection;
     ShownMarks m_marks;
-    std::function<bool(Cell)> m_sweeps;
-    std::optional<SpreadDrag> m_drag;
-    QPoint m_dragPoint;
-    QBasicTimer m_dragTimer;
+    SpreadMouse m_mouse;
+    SpreadKeyboard m_keyboard;
 };
 
 } // namespace schedules

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/cells/Place.h"
+#include "controls/grid/ShownPlace.h"
 
 #include <optional>
 #include <vector>
