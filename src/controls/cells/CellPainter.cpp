@@ -14,12 +14,6 @@ namespace schedules {
 
 namespace {
 
-constexpr int kVerticalPadding = 45;
-constexpr double kTwipsPerInch = 1440;
-
-/// Cell edges are rounded to pixels, so a text may have up to a pixel less than it measures; the padding has that room.
-constexpr double kRounding = 1;
-
 /// Less than this share of a line's height cannot be seen as an alignment.
 constexpr double kOneLineShare = 0.1;
 
@@ -28,51 +22,10 @@ constexpr double kNarrowest = 0.5;
 
 constexpr double kOutlineShare = 0.5;
 
-/// Rounded down, so that texts lose no room.
-int PixelsOf(int twips, int dpi)
-{
-    return static_cast<int>(std::floor(twips * dpi / kTwipsPerInch));
-}
-
-QTextOption PlainTextOption(QTextOption::WrapMode wrapMode)
-{
-    QTextOption option;
-    option.setWrapMode(wrapMode);
-    option.setTextDirection(Qt::LayoutDirectionAuto);
-    return option;
-}
-
-void LayOutOnOneLine(QTextLayout& layout)
-{
-    layout.setCacheEnabled(true); // else it is shaped anew when it is drawn
-    layout.beginLayout();
-    layout.createLine();
-    layout.endLayout();
-}
-
-/// Returns the height of all lines.
-double LayOutInWidth(QTextLayout& layout, double width)
-{
-    double height = 0;
-    layout.setCacheEnabled(true);
-    layout.beginLayout();
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(width);
-        line.setPosition({0, height});
-        height += line.height();
-    }
-    layout.endLayout();
-    return height;
-}
-
 } // namespace
 
 CellPainter::CellPainter(QPainter& painter, CellFaces& faces, const CellLook& look)
-    : m_painter(painter),
-      m_faces(faces),
-      m_look(look),
-      m_padding(PixelsOf(Sheet::kPadding, painter.device()->logicalDpiX())),
-      m_verticalPadding(PixelsOf(kVerticalPadding, painter.device()->logicalDpiY()))
+    : m_painter(painter), m_faces(faces), m_look(look), m_room(*painter.device())
 {
 }
 
@@ -127,7 +80,7 @@ void CellPainter::UseInkFor(const QColor& ground)
 
 void CellPainter::PaintText(const CellContent& content, const QRect& cell)
 {
-    const QRect room = cell.adjusted(m_padding, m_verticalPadding, -m_padding, -m_verticalPadding);
+    const QRect room = m_room.Within(cell);
     if (room.width() <= 0)
         return;
     if (content.wraps)
@@ -138,7 +91,7 @@ void CellPainter::PaintText(const CellContent& content, const QRect& cell)
 
 bool CellPainter::PaintGlyphs(const CellContent& content, const QRect& room)
 {
-    const bool isTooHigh = m_faces.Height(content.bold) > room.height() + 2 * m_verticalPadding;
+    const bool isTooHigh = m_faces.Height(content.bold) > m_room.CellAround(room).height();
     if (isTooHigh || m_look.drawing == TextDrawing::AsText)
         return false;
     GlyphFace& face = m_faces.Glyphs(content.bold);
@@ -180,8 +133,7 @@ double CellPainter::BaselineOf(const CellContent& content, const QRect& room) co
 
 void CellPainter::PaintLines(const CellContent& content, const QRect& room)
 {
-    QString text = content.text;
-    QTextLayout layout(text.replace(u'\n', QChar::LineSeparator), m_faces.Font(content.bold));
+    QTextLayout layout(InLines(content.text), m_faces.Font(content.bold));
     QTextOption option = PlainTextOption(QTextOption::WrapAtWordBoundaryOrAnywhere);
     const auto side = Qt::AlignAbsolute | (NearIsLeft(content.edge) ? Qt::AlignLeft : Qt::AlignRight);
     option.setAlignment(content.edge == CellEdge::Center ? Qt::AlignHCenter : side);
@@ -192,7 +144,7 @@ void CellPainter::PaintLines(const CellContent& content, const QRect& room)
 
 void CellPainter::DrawIn(const QRect& room, const QTextLayout& layout, QPointF topLeft, double height, double narrowing)
 {
-    const QRect cell = room.adjusted(-m_padding, -m_verticalPadding, m_padding, m_verticalPadding);
+    const QRect cell = m_room.CellAround(room);
     if (height <= cell.height() && m_faces.Scale() * narrowing == 1) {
         layout.draw(&m_painter, topLeft);
         return;

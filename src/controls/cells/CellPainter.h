@@ -1,7 +1,6 @@
 #pragma once
 
-#include "controls/cells/CellContent.h"
-#include "controls/cells/CellFaces.h"
+#include "controls/cells/CellRoom.h"
 
 #include <QPainter>
 #include <QPalette>
@@ -77,8 +76,7 @@ private:
     QPainter& m_painter;
     CellFaces& m_faces;
     const CellLook& m_look;
-    int m_padding;
-    int m_verticalPadding;
+    CellRoom m_room;
     Ink m_ink;
     std::array<GlyphRow, 2> m_glyphs; ///< kept back, to be drawn together: regular, bold
 };

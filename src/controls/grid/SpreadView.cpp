@@ -1,6 +1,7 @@
 #include "controls/grid/SpreadView.h"
 
 #include "controls/grid/SpreadPainter.h"
+#include "controls/grid/SpreadTip.h"
 #include "controls/grid/SpreadViewAccessible.h"
 
 #include <QClipboard>
@@ -378,6 +379,14 @@ void SpreadView::Click(Cell cell)
         return;
     setFocus(Qt::MouseFocusReason);
     m_mouse.Click(PlaceOf(*m_sheet, cell));
+}
+
+bool SpreadView::viewportEvent(QEvent* event)
+{
+    const bool asksForTip = event->type() == QEvent::ToolTip && Shows();
+    if (asksForTip && ShowTip(*static_cast<QHelpEvent*>(event), *m_sheet, Geometry(), Faces(), *viewport()))
+        return true;
+    return QAbstractScrollArea::viewportEvent(event);
 }
 
 void SpreadView::Announce(QAccessibleEvent& event)

@@ -21,6 +21,8 @@ namespace schedules {
 /// Sizes follow the screen's resolution, direction and colors follow the desktop. While the sheet does not repaint,
 /// nothing of it is looked at. Cells that the user has changed and not yet saved bear a mark in their far top corner.
 ///
+/// A cell or header that cuts its text off has a tool tip with the whole text.
+///
 /// With a context menu policy of its own, a menu is asked for at a point of the viewport, by the keyboard in the middle
 /// of the active cell.
 class SpreadView : public QAbstractScrollArea
@@ -127,6 +129,7 @@ Q_SIGNALS:
 
 protected:
     bool event(QEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
