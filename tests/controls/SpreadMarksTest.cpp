@@ -259,6 +259,34 @@ TEST(SpreadMarks, TheArrowGoesWhenAsked)
     EXPECT_EQ(shown.Grabbed(), before);
 }
 
+TEST(SpreadMarks, TheArrowAppearsAndGoesOnScreenAtOnce)
+{
+    ShownView shown(EmptySheet(3, 3));
+    struct Watch : QObject
+    {
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            if (event->type() == QEvent::Paint)
+                painted = painted.united(static_cast<QPaintEvent*>(event)->rect());
+            return false;
+        }
+        QRect painted;
+    } watch;
+    shown.view.viewport()->installEventFilter(&watch);
+    const auto repaintsFor = [&](std::optional<SortMark> mark) {
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            watch.painted = {};
+            QApplication::processEvents();
+            return watch.painted.isEmpty();
+        })) << "a window manager may have the new window painted again";
+        shown.view.ShowSortMark(mark);
+        QApplication::processEvents();
+        return watch.painted.contains(shown.view.CellRect(At(2, 0)));
+    };
+    EXPECT_TRUE(repaintsFor(SortMark{Column(2)}));
+    EXPECT_TRUE(repaintsFor(std::nullopt));
+}
+
 TEST(SpreadMarks, TheArrowLeavesATextFreeThatJustFits)
 {
     ShownView shown(DrawnSheet(QStringLiteral("| Hm\n| 1")));

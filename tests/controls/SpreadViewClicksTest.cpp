@@ -135,6 +135,46 @@ TEST(SpreadViewClick, LeavesAloneWhatTheMouseCannotReach)
     SpreadView().Click(At(1, 1));
 }
 
+TEST(SpreadViewActiveCell, TellsThatItWasClicked)
+{
+    ClickedView shown(NumberedSheet(5, 5));
+    shown.Note(&SpreadView::ActiveCellClicked, QStringLiteral("active"));
+    shown.Click(At(2, 3));
+    EXPECT_EQ(shown.Told(), QStringLiteral("moved 2,3; clicked 2,3"));
+    shown.Click(At(2, 3));
+    EXPECT_EQ(shown.Told(), QStringLiteral("active 2,3; clicked 2,3"));
+    shown.Key(Qt::Key_Right);
+    EXPECT_EQ(shown.Told(), QStringLiteral("moved 3,3"));
+    shown.view.Click(At(3, 3));
+    EXPECT_EQ(shown.Told(), QStringLiteral("active 3,3; clicked 3,3")) << "the program clicks as the mouse does";
+}
+
+TEST(SpreadViewActiveCell, IsNotClickedAgainByADoubleClick)
+{
+    ClickedView shown(NumberedSheet(5, 5));
+    shown.Note(&SpreadView::ActiveCellClicked, QStringLiteral("active"));
+    shown.Click(At(2, 3));
+    shown.DoubleClick(At(2, 3));
+    EXPECT_EQ(shown.Told(), QStringLiteral("moved 2,3; clicked 2,3; clicked 2,3; double 2,3"));
+}
+
+TEST(SpreadViewActiveCell, IsNotClickedByADragAShiftASweepOrAnotherButton)
+{
+    ClickedView shown(NumberedSheet(5, 5));
+    shown.Click(At(2, 3));
+    shown.Note(&SpreadView::ActiveCellClicked, QStringLiteral("active"));
+    shown.Told();
+    shown.Click(At(2, 3), Qt::ShiftModifier);
+    shown.Click(At(2, 3), {}, Qt::RightButton);
+    shown.Press(shown.Middle(At(2, 3)));
+    shown.MoveTo(shown.Middle(At(4, 4)));
+    shown.Release(shown.Middle(At(4, 4)));
+    EXPECT_EQ(shown.Told(), QString());
+    shown.view.SetSweeps([](Cell) { return true; });
+    shown.Click(At(2, 3));
+    EXPECT_EQ(shown.Told(), QStringLiteral("swept 2,3"));
+}
+
 TEST(SpreadViewMenu, TheRightButtonAsksForItOnceWhereItWasPressed)
 {
     MenuView shown(NumberedSheet(5, 5));

@@ -152,6 +152,8 @@ void SpreadMouse::TellCellClick(Cell cell, const SpreadDrag& drag)
         return;
     if (drag.movedActiveCell)
         Q_EMIT m_view.ActiveCellMoved(cell);
+    else if (!drag.isDouble)
+        Q_EMIT m_view.ActiveCellClicked(cell);
     Q_EMIT m_view.CellClicked(cell);
     if (drag.isDouble)
         Q_EMIT m_view.CellDoubleClicked(cell);

@@ -106,6 +106,10 @@ Q_SIGNALS:
     /// and clicking on headers do not count, and neither does what the program does.
     void ActiveCellMoved(schedules::Cell cell);
 
+    /// The active cell, which was the active one before, has been clicked. The second click of a double click does not
+    /// count, and a sweep is no click.
+    void ActiveCellClicked(schedules::Cell cell);
+
     /// The active cell or the selected block has changed, for whatever reason.
     void SelectionChanged();
 
