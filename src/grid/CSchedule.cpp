@@ -3,6 +3,8 @@
 #include "common/Error.h"
 #include "common/StringNumbers.h"
 #include "common/modResource.h"
+#include "spread/PrintCodes.h"
+#include "spread/RepaintingOff.h"
 
 #include <QPointer>
 #include <QScopeGuard>
@@ -52,6 +54,11 @@ std::vector<int> GroupHeadingsOf(const std::vector<RowAttributes>& rows)
             headings.push_back(row.row);
     }
     return headings;
+}
+
+QString AsItStands(QString text)
+{
+    return text;
 }
 
 } // namespace
@@ -112,8 +119,8 @@ bool CSchedule::LoadScheduleData(const QString& xml)
         SchedAutoSize();
         AutoSizeRowHeader();
         SchedFormatData(1);
-        StyleHeaderRow(VerticalAlignment::Center);
-        StyleRowHeaders();
+        Layout().StyleHeaderRow(VerticalAlignment::Center);
+        Layout().StyleRowHeaders();
         return loaded;
     });
 }
@@ -130,7 +137,7 @@ bool CSchedule::LoadSelectionData(const QString& xml, bool selectAllTags)
             TickCheckBoxes(selectAllTags);
         SchedAutoSize();
         SchedFormatData(3);
-        StyleHeaderRow(VerticalAlignment::Top);
+        Layout().StyleHeaderRow(VerticalAlignment::Top);
         return loaded;
     });
 }
@@ -143,7 +150,7 @@ void CSchedule::RequireSheet() const
 
 void CSchedule::ResetFilledSheet()
 {
-    if (!HasData())
+    if (!Layout().HasData())
         return;
     ResetSheet();
     SetGridSize(kWorkingColumns, kWorkingRows);
@@ -240,6 +247,78 @@ void CSchedule::HideRow(Row row)
 void CSchedule::HideColumn(Column column)
 {
     m_sched->SetHidden(column, true);
+}
+
+void CSchedule::SchedAutoSize()
+{
+    Reported(m_userInterface, kSource.In(__func__), [&] {
+        RequireSheet();
+        Layout().AutoSize();
+    });
+}
+
+void CSchedule::AutoSizeRowHeader()
+{
+    Reported(m_userInterface, kSource.In(__func__), [&] {
+        RequireSheet();
+        Layout().AutoSizeRowHeader();
+    });
+}
+
+bool CSchedule::SchedFormatData(int firstColumn)
+{
+    return Reported(m_userInterface, kSource.In(__func__), false, [&] {
+        Layout().FormatData(firstColumn);
+        return true;
+    });
+}
+
+void CSchedule::WidenToCell(Cell cell)
+{
+    Reported(m_userInterface, kSource.In(__func__), [&] {
+        RequireSheet();
+        Layout().WidenTo(cell);
+    });
+}
+
+void CSchedule::SchedShowUnits()
+{
+    Reported(m_userInterface, kSource.In(__func__), [&] {
+        RequireSheet();
+        const RepaintingOff off(*m_sched);
+        ResetSheet();
+        m_sched->SetSize(RowsActOnColumns() ? 500 : 100, m_sched->RowCount());
+        SchedFormatData(1);
+        Layout().StyleHeaderRow(VerticalAlignment::Top);
+        Layout().StyleRowHeaders();
+    });
+}
+
+QString CSchedule::GetUnitLabel(const QString& unit)
+{
+    return unit.isEmpty() ? QString() : QStringLiteral("(%1)").arg(unit);
+}
+
+void CSchedule::PrintSched()
+{
+    Reported(m_userInterface, kSource.In(__func__), [&] {
+        RequireSheet();
+        ISheetPrinter& printer = RequiredPrinter();
+        Print(*m_sched, printer, m_print,
+              m_print.header ? PageHeader(Title(), m_clock, ProtectedFromCodes) : QString());
+    });
+}
+
+ISheetPrinter& CSchedule::RequiredPrinter() const
+{
+    if (!m_printer)
+        throw Error(kUnexpectedError, QStringLiteral("The schedule has no printer."));
+    return *m_printer;
+}
+
+QString CSchedule::GetPageHeader() const
+{
+    return PageHeader(Title(), m_print.header ? m_clock : Clock(), AsItStands);
 }
 
 } // namespace schedules

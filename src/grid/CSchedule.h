@@ -1,15 +1,15 @@
 #pragma once
 
 #include "common/UserInterface.h"
+#include "grid/ScheduleLayout.h"
+#include "grid/SchedulePrint.h"
 #include "grid/ScheduleTable.h"
-#include "spread/PrintSetup.h"
 #include "spread/Sheet.h"
 
 #include <QDateTime>
 #include <QString>
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <vector>
 
@@ -43,6 +43,9 @@ public:
 
     /// Sizes the row-header column to its text.
     void AutoSizeRowHeader();
+
+    /// Makes a column as wide as one of its texts needs, never narrower; to be called after each edit.
+    void WidenToCell(Cell cell);
 
     /// Lays the sheet out after a change of `ShowUnits`. Its contents are gone then; the caller fills it again.
     void SchedShowUnits();
@@ -90,8 +93,8 @@ public:
     /// What prints; none until it is set. The caller keeps owning it.
     void SetSheetPrinter(ISheetPrinter* printer) { m_printer = printer; }
 
-    /// The clock that page headers are dated by; the computer's until another one is set.
-    using Clock = std::function<QDateTime()>;
+    /// The clock that page headers are dated by; at first the computer's.
+    using Clock = PageClock;
     void SetClock(Clock clock) { m_clock = std::move(clock); }
 
     /// Prints the whole sheet. A failure is told to the shared reporter, and nothing is printed then.
@@ -103,55 +106,55 @@ public:
     QString GetPageHeader() const;
 
     /// Whether all columns are fitted on a page, by turning it and scaling down.
-    bool SmartPrint() const { return m_smartPrint; }
-    void SetSmartPrint(bool smart) { m_smartPrint = smart; }
+    bool SmartPrint() const { return m_print.smart; }
+    void SetSmartPrint(bool smart) { m_print.smart = smart; }
 
-    bool PrintHeader() const { return m_printHeader; }
-    void SetPrintHeader(bool print) { m_printHeader = print; }
+    bool PrintHeader() const { return m_print.header; }
+    void SetPrintHeader(bool print) { m_print.header = print; }
 
-    bool PrintBorder() const { return m_printBorder; }
-    void SetPrintBorder(bool print) { m_printBorder = print; }
+    bool PrintBorder() const { return m_print.border; }
+    void SetPrintBorder(bool print) { m_print.border = print; }
 
-    bool PrintGrid() const { return m_printGrid; }
-    void SetPrintGrid(bool print) { m_printGrid = print; }
+    bool PrintGrid() const { return m_print.grid; }
+    void SetPrintGrid(bool print) { m_print.grid = print; }
 
-    bool PrintColHeaders() const { return m_printColHeaders; }
-    void SetPrintColHeaders(bool print) { m_printColHeaders = print; }
+    bool PrintColHeaders() const { return m_print.colHeaders; }
+    void SetPrintColHeaders(bool print) { m_print.colHeaders = print; }
 
-    bool PrintRowHeaders() const { return m_printRowHeaders; }
-    void SetPrintRowHeaders(bool print) { m_printRowHeaders = print; }
+    bool PrintRowHeaders() const { return m_print.rowHeaders; }
+    void SetPrintRowHeaders(bool print) { m_print.rowHeaders = print; }
 
     /// Whether headers are shaded.
-    bool PrintShadows() const { return m_printShadows; }
-    void SetPrintShadows(bool print) { m_printShadows = print; }
+    bool PrintShadows() const { return m_print.shadows; }
+    void SetPrintShadows(bool print) { m_print.shadows = print; }
 
     // These are kept for whoever set them; printing does not consult them.
-    QString PrintHeaderText() const { return m_printHeaderText; }
-    void SetPrintHeaderText(const QString& text) { m_printHeaderText = text; }
+    QString PrintHeaderText() const { return m_print.headerText; }
+    void SetPrintHeaderText(const QString& text) { m_print.headerText = text; }
 
-    QString PrintFooterText() const { return m_printFooterText; }
-    void SetPrintFooterText(const QString& text) { m_printFooterText = text; }
+    QString PrintFooterText() const { return m_print.footerText; }
+    void SetPrintFooterText(const QString& text) { m_print.footerText = text; }
 
-    bool PrintFooter() const { return m_printFooter; }
-    void SetPrintFooter(bool print) { m_printFooter = print; }
+    bool PrintFooter() const { return m_print.footer; }
+    void SetPrintFooter(bool print) { m_print.footer = print; }
 
-    QString PrintJobName() const { return m_printJobName; }
-    void SetPrintJobName(const QString& name) { m_printJobName = name; }
+    QString PrintJobName() const { return m_print.jobName; }
+    void SetPrintJobName(const QString& name) { m_print.jobName = name; }
 
-    QString PrintAbortMsg() const { return m_printAbortMsg; }
-    void SetPrintAbortMsg(const QString& text) { m_printAbortMsg = text; }
+    QString PrintAbortMsg() const { return m_print.abortMsg; }
+    void SetPrintAbortMsg(const QString& text) { m_print.abortMsg = text; }
 
-    std::int16_t PrintPageStart() const { return m_printPageStart; }
-    void SetPrintPageStart(std::int16_t page) { m_printPageStart = page; }
+    std::int16_t PrintPageStart() const { return m_print.pageStart; }
+    void SetPrintPageStart(std::int16_t page) { m_print.pageStart = page; }
 
-    std::int16_t PrintPageEnd() const { return m_printPageEnd; }
-    void SetPrintPageEnd(std::int16_t page) { m_printPageEnd = page; }
+    std::int16_t PrintPageEnd() const { return m_print.pageEnd; }
+    void SetPrintPageEnd(std::int16_t page) { m_print.pageEnd = page; }
 
-    std::int16_t PrintType() const { return m_printType; }
-    void SetPrintType(std::int16_t type) { m_printType = type; }
+    std::int16_t PrintType() const { return m_print.type; }
+    void SetPrintType(std::int16_t type) { m_print.type = type; }
 
-    bool PrintProjectProperties() const { return m_printProjectProperties; }
-    void SetPrintProjectProperties(bool print) { m_printProjectProperties = print; }
+    bool PrintProjectProperties() const { return m_print.projectProperties; }
+    void SetPrintProjectProperties(bool print) { m_print.projectProperties = print; }
 
 private:
     /// Throws `Error` when no sheet is attached.
@@ -171,18 +174,10 @@ private:
     void HideColumn(Column column);
 
     bool SchedFormatData(int firstColumn);
-    void AlignDataColumns(int firstColumn);
-    void SizeColumns(int firstColumn);
-    void StyleHeaderRow(VerticalAlignment alignment);
-    void StyleRowHeaders();
-    bool HasData() const;
     bool RowsActOnColumns() const { return m_schedOrientation == 1; }
-    int WidthOf(Column column) const;
+    ScheduleLayout Layout() const { return {*m_sched, RowsActOnColumns()}; }
 
     ISheetPrinter& RequiredPrinter() const;
-    void SetPrintOptions(ISheetPrinter& printer) const;
-    /// `written` is how a text stands among the codes.
-    QString HeaderWith(QString (*written)(QString text)) const;
 
     class BusyPointer;
 
@@ -199,27 +194,10 @@ private:
     int m_templateID = 0;
     std::optional<QString> m_title;
     std::vector<int> m_groupHeadings;
-    int m_columnMargin = 0;
-    int m_headerRowMinimumHeight = 0;
 
     ISheetPrinter* m_printer = nullptr;
     Clock m_clock = [] { return QDateTime::currentDateTime(); };
-    bool m_smartPrint = false;
-    bool m_printHeader = true;
-    bool m_printBorder = true;
-    bool m_printGrid = true;
-    bool m_printColHeaders = true;
-    bool m_printRowHeaders = true;
-    bool m_printShadows = false;
-    QString m_printHeaderText;
-    QString m_printFooterText;
-    bool m_printFooter = true;
-    QString m_printJobName;
-    QString m_printAbortMsg;
-    std::int16_t m_printPageStart = 0;
-    std::int16_t m_printPageEnd = 0;
-    std::int16_t m_printType = 0;
-    bool m_printProjectProperties = false;
+    PrintChoices m_print;
 };
 
 } // namespace schedules

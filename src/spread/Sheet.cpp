@@ -245,6 +245,12 @@ int Sheet::WidestText(Column column) const
     return width > 0 ? width + 2 * kPadding : 0;
 }
 
+int Sheet::TextWidth(Cell cell) const
+{
+    const std::string_view text = Utf8(cell);
+    return text.empty() ? 0 : TextMeasure::WidthOf(text, m_font, Bold(cell)) + 2 * kPadding;
+}
+
 void Sheet::MeasureAll() const
 {
     // What the font teaches takes more room than a small table, so it is not kept.

@@ -77,8 +77,7 @@ public:
     const CellStore& Store() const { return m_store; }
     Lines LinesRun() const { return m_lines; }
 
-    /// Where a cell is in the table, whichever way the lines run: in which of them, and which of its cells it is. Both
-    /// count from 0, the headers.
+    /// Where a cell is in the table, whichever way the lines run: in which of them, and where there. 0 is the header.
     struct TablePlace
     {
         int line = 0;
@@ -142,17 +141,19 @@ public:
     Cell ActiveCell() const { return m_activeCell; }
     void SetActiveCell(Cell cell);
 
-    /// Everything that a table or its layout can set goes back to the start: cells, looks, hidden flags, sizes and
-    /// order. The frozen counts and the font stay.
+    /// All that a table or its layout can set goes back to the start; the frozen counts and the font stay.
     void Reset();
 
     // Text sizes. The font of the cells gives the height of a row.
     const QFont& Font() const { return m_font; }
     void SetFont(const QFont& font);
 
-    /// The width that the widest text of a column needs, its header and hidden rows counted, with the padding of a
-    /// cell at both sides; 0 for a column without any text.
+    /// The width that the widest text of a column needs, its header and hidden rows counted, with the padding at both
+    /// sides; 0 without any text.
     int WidestText(Column column) const;
+
+    /// The same of one cell; no other text is looked at.
+    int TextWidth(Cell cell) const;
 
     /// The room between a text and the lines beside it.
     static constexpr int kPadding = 75;

@@ -32,6 +32,15 @@ QFont MeasuringFont(const QFont& font, bool bold)
     return sized;
 }
 
+int MeasuredWidth(std::string_view utf8, const QFontMetricsF& metrics)
+{
+    const QString text = OnOneLine(FromUtf8(utf8));
+    double width = 0;
+    for (qsizetype from = 0; from < text.size(); from += kMostAtOnce)
+        width += metrics.horizontalAdvance(text.mid(from, kMostAtOnce));
+    return static_cast<int>(std::min(std::ceil(width), kWidest));
+}
+
 } // namespace
 
 TextMeasure::Face::Face(const QFont& font) : metrics(font), latin(metrics, 0) {}
@@ -65,11 +74,12 @@ TextMeasure::TextMeasure(const QFont& font)
 
 int TextMeasure::Exact(std::string_view utf8, bool bold) const
 {
-    const QString text = OnOneLine(FromUtf8(utf8));
-    double width = 0;
-    for (qsizetype from = 0; from < text.size(); from += kMostAtOnce)
-        width += FaceOf(bold).metrics.horizontalAdvance(text.mid(from, kMostAtOnce));
-    return static_cast<int>(std::min(std::ceil(width), kWidest));
+    return MeasuredWidth(utf8, FaceOf(bold).metrics);
+}
+
+int TextMeasure::WidthOf(std::string_view utf8, const QFont& font, bool bold)
+{
+    return MeasuredWidth(utf8, QFontMetricsF(MeasuringFont(font, bold || font.bold())));
 }
 
 std::int64_t TextMeasure::Learned(std::string_view utf8, bool bold)

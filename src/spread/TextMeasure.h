@@ -29,6 +29,9 @@ public:
     /// What the font's own metrics say about the text on one line: the width rounded up.
     int Exact(std::string_view utf8, bool bold) const;
 
+    /// The same for a single text, for which there is nothing to be learned.
+    static int WidthOf(std::string_view utf8, const QFont& font, bool bold);
+
     /// The learned width, in 64ths of a twip; -1 for a text that only the font can measure.
     std::int64_t Learned(std::string_view utf8, bool bold);
 

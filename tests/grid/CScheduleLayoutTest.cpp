@@ -183,6 +183,58 @@ TEST_F(CScheduleLayout, AScheduleSizesAllColumnsInEitherOrientation)
     }
 }
 
+// Widths after an edit.
+
+TEST_F(CScheduleLayout, AnEditedCellWidensItsColumnToItsTextAndNeverNarrowsIt)
+{
+    Loaded("Tag | Flow | Head \n P-1 | 12 | 3 \n P-2 | 8 | 4");
+    const QString text = QStringLiteral("1234567.5 m3/h at most");
+    sheet.SetText(At(1, 2), text);
+    engine.WidenToCell(At(1, 2));
+    const int wide = Advance(text, sheet.Font()) + kPadding;
+    EXPECT_EQ(sheet.ColumnWidth(Column(1)), wide);
+    EXPECT_EQ(sheet.ColumnWidth(Column(2)), Advance(QStringLiteral("Head"), sheet.Font()) + kPadding)
+        << "the neighbour stays";
+    for (const char* shorter : {"1", ""}) {
+        sheet.SetText(At(1, 2), QLatin1String(shorter));
+        engine.WidenToCell(At(1, 2));
+        EXPECT_EQ(sheet.ColumnWidth(Column(1)), wide);
+    }
+}
+
+TEST_F(CScheduleLayout, AnEditedCellWidensByTheMeasureOfALoad)
+{
+    for (const int orientation : {0, 1}) {
+        for (const bool transpose : {false, true}) {
+            engine.SetSchedOrientation(orientation);
+            engine.SetTransposeData(transpose);
+            Loaded("Tag | i {fontBold=-1} | i \n P-1 | 1 | 2 \n P-2 | 3 | 4");
+            for (const Cell cell : {At(0, 1), At(1, 0), At(1, 2), At(2, 1)}) {
+                sheet.SetText(cell, QStringLiteral("Umwälzpumpe, spare in store"));
+                engine.WidenToCell(cell);
+                EXPECT_EQ(sheet.ColumnWidth(cell.column), sheet.WidestText(cell.column)) << orientation << transpose;
+            }
+        }
+    }
+}
+
+TEST_F(CScheduleLayout, AnEditedCellKeepsTheLeastWidths)
+{
+    Loaded("Tag | i \n P-1 | 1");
+    sheet.SetText(At(0, 1), Measuring(1400));
+    sheet.SetText(At(1, 1), Measuring(361));
+    engine.WidenToCell(At(0, 1));
+    engine.WidenToCell(At(1, 1));
+    EXPECT_EQ(DrawnWidths(sheet), "1440 | 361");
+}
+
+TEST_F(CScheduleLayout, AnEditWithoutASheetToWidenIsReported)
+{
+    engine.SetSched(nullptr);
+    engine.WidenToCell(At(1, 1));
+    EXPECT_EQ(Sources(), "Schedules.CSchedule.WidenToCell");
+}
+
 // Alignment and looks.
 
 TEST_F(CScheduleLayout, HeadersAreCentredRowHeadersLeftAndDataByTheirKind)
@@ -218,6 +270,21 @@ TEST_F(CScheduleLayout, RowHeadersDoNotWrap)
     Loaded("Tag | Flow \n P-1 | 12");
     EXPECT_FALSE(sheet.Wraps(At(0, 1)));
     EXPECT_TRUE(sheet.Wraps(At(1, 1)));
+}
+
+TEST_F(CScheduleLayout, RowHeadersStandAtTheLeftWhateverTheyDidBefore)
+{
+    for (const int orientation : {0, 1}) {
+        engine.SetSchedOrientation(orientation);
+        engine.SchedInitialize();
+        sheet.SetHAlign({{Column(0), kAllRows}, {Column(0), kAllRows}}, HorizontalAlignment::Data);
+        ASSERT_TRUE(engine.LoadSelectionData(Table("1 | Tag | Select \n 2 | P-1 | 3"), false));
+        EXPECT_EQ(sheet.HAlign(At(0, 1)), HorizontalAlignment::Left) << orientation;
+        engine.SchedInitialize();
+        sheet.SetHAlign({{Column(0), kAllRows}, {Column(0), kAllRows}}, HorizontalAlignment::Center);
+        Loaded("1 | Tag");
+        EXPECT_EQ(sheet.HAlign(At(0, 0)), HorizontalAlignment::Left) << orientation;
+    }
 }
 
 TEST_F(CScheduleLayout, TheHeaderRowIsNeverLowered)

@@ -307,6 +307,25 @@ TEST_F(CScheduleLoad, RowHeadersWithoutColumnsAreNoReasonForAReset)
     EXPECT_EQ(DrawnHidden(sheet), "rows 1");
 }
 
+TEST_F(CScheduleLoad, AnEmptyScheduleLeavesItsLooksToTheNextUnlessTheGridIsInitialised)
+{
+    const char* const empty = "a {bgColor=255} | b | c {hidden=-1}";
+    const char* const next = "Tag \n P-1 | 12 \n P-2 | 8";
+    Loaded(empty);
+    Loaded(next);
+    EXPECT_EQ(DrawnHidden(sheet), "rows 2");
+    EXPECT_EQ(sheet.Text(At(1, 0)), QStringLiteral("b"));
+    EXPECT_EQ(sheet.BackColor(At(1, 0)), 255u);
+    engine.SchedInitialize();
+    Loaded(empty);
+    engine.SchedInitialize();
+    EXPECT_EQ(Loaded(next), "Tag |\n"
+                            "P-1 | 12\n"
+                            "P-2 | 8");
+    EXPECT_EQ(DrawnHidden(sheet), "none");
+    EXPECT_EQ(sheet.BackColor(At(1, 0)), std::nullopt);
+}
+
 // Loads that fail.
 
 TEST_F(CScheduleLoad, AFailedLoadShowsItsMessageAndReturnsFalse)

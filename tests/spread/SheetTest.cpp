@@ -321,6 +321,20 @@ TEST_F(SheetTest, WidthsFollowEveryChange)
     EXPECT_EQ(sheet.WidestText(Column(1)), 0);
 }
 
+TEST_F(SheetTest, OneTextIsMeasuredLikeTheWidest)
+{
+    Adopt(TableOf({{"a", "bb"}, {"AVAVA To Ty, Umwälzpumpe Насос 上海", "d"}}), Lines::AreColumns);
+    const auto measuresAlike = [this] { return sheet.TextWidth(At(1, 0)) == sheet.WidestText(Column(1)); };
+    EXPECT_TRUE(measuresAlike());
+    sheet.SetBold(CellRange::Of(Column(1), Row(0)), true);
+    EXPECT_TRUE(measuresAlike());
+    QFont bold = sheet.Font();
+    bold.setBold(true);
+    sheet.SetFont(bold);
+    EXPECT_TRUE(measuresAlike());
+    EXPECT_EQ(sheet.TextWidth(At(5, 5)), 0) << "without text";
+}
+
 TEST_F(SheetTest, ColumnsOfTransposedLinesAreMeasuredAsColumns)
 {
     Adopt(TableOf({{"a", "bb"}, {"cccccc", "d"}}), Lines::AreColumns);

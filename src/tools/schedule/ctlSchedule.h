@@ -6,7 +6,7 @@
 #include "tools/schedule/ViewLink.h"
 #include "tools/schedule/ViewSettings.h"
 #include "tools/schedule/bar/ToolIdentifiers.h"
-#include "tools/schedule/layout/ScheduleLayout.h"
+#include "tools/schedule/layout/ViewLayout.h"
 
 namespace schedules {
 
@@ -165,7 +165,7 @@ private:
 
     ViewSettings m_settings;
     ViewLink m_link;
-    ScheduleLayout m_layout;
+    ViewLayout m_layout;
     ToolIdentifiers m_toolIdentifiers;
     std::unique_ptr<ScheduleRooms> m_rooms;
     std::unique_ptr<ViewCommands> m_commands;

@@ -11,9 +11,9 @@ class ScheduleToolbar;
 class SpreadView;
 
 /// The widgets of the view, one below the other; the view owns them.
-struct ScheduleLayout
+struct ViewLayout
 {
-    explicit ScheduleLayout(QWidget& view);
+    explicit ViewLayout(QWidget& view);
 
     /// To be called when the view has another size. A long message scrolls; the grid is what the view is for.
     void FollowHeight(int height);

@@ -1,4 +1,4 @@
-#include "tools/schedule/layout/ScheduleLayout.h"
+#include "tools/schedule/layout/ViewLayout.h"
 
 #include "common/CResEnum.h"
 #include "common/StringNumbers.h"
@@ -26,7 +26,7 @@ Widget* Named(const char* name, Arguments&&... arguments)
 
 } // namespace
 
-ScheduleLayout::ScheduleLayout(QWidget& view)
+ViewLayout::ViewLayout(QWidget& view)
     : message(new CustomMessage(&view)),
       toolbar(new ScheduleToolbar(&view)),
       grid(Named<SpreadView>("vaSpread1", &view)),
@@ -50,12 +50,12 @@ ScheduleLayout::ScheduleLayout(QWidget& view)
     column->addLayout(buttons);
 }
 
-void ScheduleLayout::FollowHeight(int height)
+void ViewLayout::FollowHeight(int height)
 {
     message->setMaximumHeight(height / 3);
 }
 
-void ScheduleLayout::ShowCommandButtons(bool isSelector)
+void ViewLayout::ShowCommandButtons(bool isSelector)
 {
     constexpr auto kCancelCaption = static_cast<int>(CResEnum::ectlSchedule::cmdCancel_CAPTION);
     continueButton->setVisible(isSelector);
