@@ -262,6 +262,21 @@ TEST_F(EditSessionTest, AClickOnTheActiveClosedCellOpensIt)
     EXPECT_EQ(Edit(), "1,1: 12");
 }
 
+TEST_F(EditSessionTest, ALongerValueWidensItsColumnAndAShorterOneLeavesIt)
+{
+    ShowSchedule();
+    const int before = TheSheet()->ColumnWidth(Column(1));
+    EditCell(1, 1, "1234567.5");
+    const int wide = TheSheet()->ColumnWidth(Column(1));
+    EXPECT_GT(wide, before);
+    EXPECT_GE(wide, TheSheet()->WidestText(Column(1))) << "all of it can be seen";
+    EditCell(1, 1, "1");
+    EXPECT_EQ(TheSheet()->ColumnWidth(Column(1)), wide);
+    Click("btnTranspose");
+    EditCell(1, 1, "1234567.5");
+    EXPECT_GE(TheSheet()->ColumnWidth(Column(1)), TheSheet()->WidestText(Column(1)));
+}
+
 TEST_F(EditSessionTest, ANewDocumentStartsFromACleanSheet)
 {
     Show(kScheduleView, QStringLiteral("<TABLE><TR><TH>No.</TH></TR><TR><TH bgColor='255'>1</TH></TR>"

@@ -72,7 +72,7 @@ CellEditing::~CellEditing() = default;
 void CellEditing::Connect()
 {
     connect(&m_grid, &SpreadView::ActiveCellMoved, this, &CellEditing::OnCellMoved);
-    connect(&m_grid, &SpreadView::CellClicked, this, &CellEditing::OnCellClicked);
+    connect(&m_grid, &SpreadView::ActiveCellClicked, this, &CellEditing::StartCellEdit);
     connect(&m_grid, &SpreadView::CellDoubleClicked, this, &CellEditing::StartCellEdit);
     connect(&m_grid, &SpreadView::CellsMoved, this, &CellEditing::CommitCellEdit);
     connect(m_box, &CellEditBox::EnterPressed, this, &CellEditing::CommitCellEdit);
@@ -104,13 +104,6 @@ void CellEditing::OnCellMoved(Cell cell)
 {
     CommitCellEdit();
     StartCellEdit(cell);
-}
-
-/// A click on the active cell, whose edit has been closed, opens it again.
-void CellEditing::OnCellClicked(Cell cell)
-{
-    if (cell == Table().ActiveCell())
-        StartCellEdit(cell);
 }
 
 void CellEditing::StartCellEdit(Cell cell)

@@ -84,7 +84,6 @@ private:
     void BeginCellEdit(Column column, Row row);
     void CloseBox();
     void OnCellMoved(Cell cell);
-    void OnCellClicked(Cell cell);
     void FollowBox();
 
     // Keys of the box.

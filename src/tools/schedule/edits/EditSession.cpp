@@ -116,6 +116,7 @@ void EditSession::Change(Cell cell, const QString& text)
         sheet.SetText(cell, text);
         SetMark(place, true);
     });
+    m_table.Engine().WidenToCell(cell);
     SetTagDataDirty(true);
     bool isWritten = false;
     IgnoringErrors([&] { isWritten = m_held.SetCellText(place, text, former); });
