@@ -2,6 +2,7 @@
 
 #include "host/project/DatabaseError.h"
 
+#include <QLoggingCategory>
 #include <QSqlError>
 #include <QStringList>
 #include <QUuid>
@@ -9,6 +10,8 @@
 namespace schedules::host {
 
 namespace {
+
+Q_LOGGING_CATEGORY(kStatements, "schedhost.statements", QtInfoMsg)
 
 QSqlDatabase NewConnection(const ProjectAddress& address)
 {
@@ -100,6 +103,7 @@ void Database::Connect()
 
 void Database::Run(const QString& statement, const QVariantList& values, const RowStep& step)
 {
+    qCDebug(kStatements).noquote() << statement;
     QVariantList bound;
     for (const QVariant& value : values)
         bound.append(Bound(value, m_address));

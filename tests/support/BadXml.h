@@ -36,6 +36,12 @@ inline QString WithTagOf(int length)
            QStringLiteral("<TH>x</TH></TR></TABLE>");
 }
 
+/// A sound one that is larger than any bad one: what costs more than it is not refused in time.
+inline QString LargeDocument()
+{
+    return QStringLiteral("<TABLE>") + Repeated("<TR><TH a='1'>x</TH></TR>", 200'000) + QStringLiteral("</TABLE>");
+}
+
 inline QString Nested(int depth)
 {
     return Repeated("<TABLE>", depth) + Repeated("</TABLE>", depth);

@@ -5,14 +5,15 @@
 
 namespace schedules::testing {
 
-/// Collects the component's trace lines for as long as it lives.
+/// Collects the trace lines of a category, the component's unless another is named, for as long as it lives.
 class TraceLog
 {
 public:
-    TraceLog()
+    explicit TraceLog(const char* category = "schedules.trace")
     {
         s_lines = &lines;
-        QLoggingCategory::setFilterRules(QStringLiteral("schedules.trace.debug=true"));
+        s_category = category;
+        QLoggingCategory::setFilterRules(QLatin1String(category) + QStringLiteral(".debug=true"));
         m_previous = qInstallMessageHandler(Collect);
     }
 
@@ -30,11 +31,12 @@ public:
 private:
     static void Collect(QtMsgType, const QMessageLogContext& context, const QString& message)
     {
-        if (context.category == QLatin1String("schedules.trace"))
+        if (context.category == QLatin1String(s_category))
             s_lines->append(message);
     }
 
     static inline QStringList* s_lines = nullptr;
+    static inline const char* s_category = nullptr;
     QtMessageHandler m_previous = nullptr;
 };
 

@@ -44,6 +44,8 @@ inline std::string OpenedBy(
         if (!menu)
             return;
         whenOpen.stop();
+        // No user closes a menu before the platform has made it active; it would keep the focus afterwards.
+        QApplication::processEvents();
         entries = Entries(*menu);
         use(*menu);
         if (menu)

@@ -3,12 +3,12 @@
 #include "host/import/SampleProject.h"
 #include "host/project/NamedRows.h"
 #include "host/project/Project.h"
+#include "support/TraceLog.h"
 
 #include <QHash>
 #include <QTemporaryDir>
 
 #include <algorithm>
-#include <ctime>
 #include <gtest/gtest.h>
 
 namespace schedules::host::testing {
@@ -19,16 +19,16 @@ class SamplePlant
 public:
     SamplePlant()
     {
-        const std::clock_t start = std::clock();
+        const schedules::testing::TraceLog statements("schedhost.statements");
         FillWithSample(*m_project);
-        m_seconds = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+        m_statements = statements.lines.size();
         ReadValues();
     }
 
     const Project& Held() const { return *m_project; }
 
-    /// How long the processor took to fill it.
-    double Seconds() const { return m_seconds; }
+    /// How many statements filled it.
+    qsizetype Statements() const { return m_statements; }
 
     QString Text(const QString& tag, const QString& location) const
     {
@@ -64,7 +64,7 @@ private:
 
     QTemporaryDir m_folder;
     std::unique_ptr<Project> m_project = Project::Create(m_folder.filePath(QStringLiteral("sample.schedules")));
-    double m_seconds = 0;
+    qsizetype m_statements = 0;
     QHash<QPair<QString, QString>, QString> m_values;
 };
 
