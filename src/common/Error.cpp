@@ -10,15 +10,6 @@ namespace {
 constexpr auto kComponentName = "Schedules";
 }
 
-Error::Error(int number, const QString& description, const QString& source, int systemCode)
-    : m_number(number),
-      m_description(description),
-      m_source(source),
-      m_systemCode(systemCode),
-      m_what(description.toUtf8())
-{
-}
-
 QualifiedName::operator QString() const
 {
     return QStringLiteral("%1.%2.%3")

@@ -24,11 +24,19 @@ enum ErrorNumber
     kAutomationError = 440
 };
 
-/// What a failed procedure throws inside the component.
+/// What a failed procedure throws inside the component. A host makes one to have it reported with `HandleError`, linked
+/// with the component or not.
 class Error : public std::exception
 {
 public:
-    Error(int number, const QString& description, const QString& source = {}, int systemCode = 0);
+    Error(int number, const QString& description, const QString& source = {}, int systemCode = 0)
+        : m_number(number),
+          m_description(description),
+          m_source(source),
+          m_systemCode(systemCode),
+          m_what(description.toUtf8())
+    {
+    }
 
     int Number() const { return m_number; }
     const QString& Description() const { return m_description; }

@@ -1,5 +1,8 @@
 #include "component/LoadedComponent.h"
+#include "common/Error.h"
 #include "fileutil/CFileUtility.h"
+#include "framework/IScheduleView.h"
+#include "framework/ITemplateEditor.h"
 #include "framework/IToolUI.h"
 
 #include <QAction>
@@ -68,6 +71,33 @@ TEST_F(ComponentTest, CreatesNoUtilityForAnUnknownName)
 {
     EXPECT_FALSE(factory->CreateUtility(QStringLiteral("ctlSchedule")));
     EXPECT_FALSE(factory->CreateUtility(QString()));
+}
+
+TEST_F(ComponentTest, TakesTheTypedContractsOfItsTools)
+{
+    const auto view = Created(QStringLiteral("ctlSchedule"));
+    Start(*view);
+    auto* schedule = qobject_cast<IScheduleView*>(view.get());
+    ASSERT_TRUE(schedule);
+    EXPECT_EQ(schedule->FindCell(QStringLiteral("Flow"), QStringLiteral("P-1")), (GridPlace{1, 1}));
+    EXPECT_TRUE(schedule->ChangedCells().isEmpty());
+    const auto editor = Created(QStringLiteral("ctlSchedOptions"));
+    ASSERT_TRUE(qobject_cast<ITemplateEditor*>(editor.get()));
+}
+
+TEST_F(ComponentTest, ReportsAnErrorThatAHostHasMade)
+{
+    const auto tool = Created(QStringLiteral("ctlSchedule"));
+    Start(*tool);
+    host.bodies.clear();
+    const Error error(5, QStringLiteral("The plot is gone"), QStringLiteral("Host.Plot"));
+    const Error* told = &error;
+    ASSERT_TRUE(QMetaObject::invokeMethod(tool.get(), "HandleError", Q_ARG(const schedules::Error*, told),
+                                          Q_ARG(QString, QStringLiteral("Host.Plot.Draw")), Q_ARG(QString, QString()),
+                                          Q_ARG(QString, QString())));
+    ASSERT_EQ(host.bodies.size(), 1);
+    EXPECT_TRUE(host.bodies.front().contains(QStringLiteral("The plot is gone")));
+    EXPECT_TRUE(host.bodies.front().contains(QStringLiteral("Host.Plot.Draw")));
 }
 
 TEST_F(ComponentTest, DrivesAToolThroughTheToolInterface)

@@ -50,7 +50,9 @@ void EditingWalk::Run()
     StartModel(first);
     Look();
     while (!AtEnd()) {
+        m_boxIsKnown = m_ends = m_escapes = false;
         Step();
+        LookAtBox();
         Look();
     }
     Save();
@@ -107,6 +109,7 @@ void EditingWalk::TypeCharacter(unsigned character)
     const QString text(character < 0x80 ? QChar(character) : QChar(kSeldomTyped[character % kSeldomTyped.size()]));
     const int code = character < 0x80 ? QChar::toUpper(character) : Qt::Key_unknown;
     QKeyEvent press(QEvent::KeyPress, code, m_modifiers, m_modifiers & Qt::ControlModifier ? QString() : text);
+    SendToBox(press);
     QApplication::sendEvent(Box()->isVisible() ? static_cast<QWidget*>(Box()) : Spread(), &press);
 }
 
@@ -115,7 +118,17 @@ void EditingWalk::Press(Qt::Key key)
 {
     if (Focus() != Box())
         Spread()->setFocus();
+    SendToBox(QKeyEvent(QEvent::KeyPress, key, m_modifiers));
     QTest::keyClick(Focus(), key, m_modifiers);
+}
+
+void EditingWalk::SendToBox(const QKeyEvent& key)
+{
+    static constexpr std::array kEnding{Qt::Key_Return, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Up, Qt::Key_Down};
+    const bool isPlain = !(key.modifiers() & Qt::ControlModifier);
+    m_escapes = isPlain && key.key() == Qt::Key_Escape;
+    m_ends = m_escapes || (isPlain && std::ranges::count(kEnding, key.key()));
+    m_boxIsKnown = m_edit && Focus() == Box() && m_box.Press(key);
 }
 
 /// The middle of a cell as far as it is seen.
@@ -165,8 +178,11 @@ void EditingWalk::Compose()
     QInputMethodEvent event(text, {});
     if (Choice(2) == 0)
         event.setCommitString(text);
-    if (Box()->isVisible())
-        QApplication::sendEvent(Box(), &event);
+    if (!Box()->isVisible())
+        return;
+    if (m_edit)
+        m_edit->composed = true;
+    QApplication::sendEvent(Box(), &event);
 }
 
 void EditingWalk::Turn()
@@ -224,6 +240,8 @@ void EditingWalk::Continue()
 
 void EditingWalk::ActivateAgain()
 {
+    if (m_waiting)
+        return TakeIn(*m_waiting);
     user.boxes.clear();
     view.IToolUI_Activate();
     if (!user.boxes.empty())
@@ -232,9 +250,10 @@ void EditingWalk::ActivateAgain()
 
 void EditingWalk::HandOver()
 {
-    const QString xml = Document();
-    Hold(xml);
-    view.IToolUI_XML(xml);
+    // It waits, or takes the place of the same table.
+    m_model.reset();
+    m_waiting = Document();
+    view.IToolUI_XML(*m_waiting);
 }
 
 void EditingWalk::HandBack()
@@ -298,14 +317,13 @@ void EditingWalk::TakeIn(const QString& xml)
 void EditingWalk::Hold(const QString& xml)
 {
     m_model.reset();
+    m_waiting.reset();
     m_holdsXml = static_cast<bool>(XmlDocument::FromText(xml));
-    // A grid that holds no data is not reset; headers of a table without data shine through the next one.
-    m_startsClean = !TheSheet() || TheSheet()->Store().Empty() || HasData();
 }
 
 void EditingWalk::StartModel(const QString& xml)
 {
-    const bool isKnown = m_startsClean && HasData() && IsFlatSchedule(xml);
+    const bool isKnown = HasData() && IsFlatSchedule(xml);
     if (view.property("ViewType") == kScheduleView && isKnown)
         m_model.emplace(xml, *TheSheet());
 }
@@ -326,7 +344,34 @@ void EditingWalk::Look()
     EXPECT_EQ(Dirty(), m_model->HasUnsaved());
     // There are no tools before the first activation that shows its document.
     if (const QAction* save = Tool("btnSaveTag"))
-        EXPECT_EQ(save->isEnabled(), Dirty());
+        EXPECT_EQ(save->isEnabled(), view.HasUnsavedEdits());
+}
+
+/// The box holds what was typed, and a cell what its box held.
+void EditingWalk::LookAtBox()
+{
+    const Sheet* sheet = TheSheet();
+    const bool isOpen = sheet && Box()->isVisible();
+    const auto place = sheet ? sheet->TablePlaceOf(sheet->ActiveCell()) : Sheet::TablePlace();
+    const bool goesOn = isOpen && m_edit && m_edit->place == place && !m_ends;
+    const bool isKnown = m_edit && !m_edit->composed;
+    if (goesOn && isKnown && m_boxIsKnown) {
+        EXPECT_EQ(Box()->text(), m_box.Text());
+    } else if (!goesOn && isKnown && m_model)
+        ExpectCommitted();
+    if (isOpen && !goesOn)
+        m_edit = OpenEdit{place, sheet->Text(sheet->ActiveCell())};
+    else if (!isOpen)
+        m_edit.reset();
+    if (isOpen)
+        m_box.Copy(*Box());
+}
+
+void EditingWalk::ExpectCommitted() const
+{
+    const Sheet& sheet = *TheSheet();
+    const bool isChanged = !m_escapes && m_box.Text() != m_edit->previous;
+    EXPECT_EQ(sheet.Text(sheet.CellAt(m_edit->place)), isChanged ? m_box.Committed() : m_edit->previous);
 }
 
 void EditingWalk::LookAtMessages()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "fuzz/BoxModel.h"
 #include "fuzz/EditModel.h"
 #include "tools/EditingTest.h"
 
@@ -72,11 +73,14 @@ private:
 
     void TakeIn(const QString& xml);
     void Hold(const QString& xml);
+    void SendToBox(const QKeyEvent& key);
     void StartModel(const QString& xml);
     bool HasData() const { return TheSheet()->DataColumnCount() > 0 && TheSheet()->DataRowCount() > 0; }
 
     // What must hold.
     void Look();
+    void LookAtBox();
+    void ExpectCommitted() const;
     void LookAtMessages();
     void ExpectInsideTheGrid() const;
     void ExpectAllRowsOnce() const;
@@ -89,8 +93,21 @@ private:
     Qt::KeyboardModifiers m_modifiers;
     std::optional<EditModel> m_model; ///< as long as it is known what must be edited
     bool m_holdsXml = false;          ///< the document that the view holds is well-formed
-    bool m_startsClean = false;       ///< nothing of the table before it is left over in the grid
+    std::optional<QString> m_waiting; ///< handed over, and not shown yet
     std::size_t m_heard = 0;
+
+    /// An edit that was open before the step.
+    struct OpenEdit
+    {
+        Sheet::TablePlace place;
+        QString previous;
+        bool composed = false; ///< an input method has had a hand in it, which the model does not know
+    };
+    std::optional<OpenEdit> m_edit;
+    BoxModel m_box;
+    bool m_boxIsKnown = false; ///< the step was a key that the model knows
+    bool m_ends = false;       ///< the step was a key that ends an edit
+    bool m_escapes = false;
     QString m_handedOver;
 };
 
