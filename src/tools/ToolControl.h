@@ -3,7 +3,6 @@
 #include "framework/IToolUI.h"
 #include "tools/HostLink.h"
 
-#include <QPointer>
 #include <QWidget>
 
 namespace schedules {
@@ -26,13 +25,6 @@ protected:
 
     /// For those who do a part of the tool's work.
     HostLink& Link() { return *this; }
-
-    /// Throws `ToolGone` when there is no tool any more.
-    static void RequireAlive(const QPointer<QWidget>& alive)
-    {
-        if (!alive)
-            throw ToolGone();
-    }
 
     /// Keeps router and owner, then obtains the resource module, sets the captions and sends the announcement, a
     /// request with the parameter "Caller". Ends early, without a trace, when no module can be had.

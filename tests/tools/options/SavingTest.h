@@ -8,6 +8,7 @@
 #include "tools/options/saveas/frmSaveAs.h"
 
 #include <QDir>
+#include <QPointer>
 #include <QScrollBar>
 
 #include <deque>
