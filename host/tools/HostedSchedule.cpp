@@ -124,11 +124,12 @@ void HostedSchedule::Enter(const CellText& entry)
 
 void HostedSchedule::Tick(const QString& tag)
 {
-    if (m_view.TickTag(tag))
-        return;
-    if (const auto place = TickPlace(*this, tag))
+    const auto place = TickPlace(*this, tag);
+    if (!place)
+        throw HostError(QStringLiteral("there is no tag '%1'").arg(tag));
+    const Cell cell{Column(place->column), Row(place->row)};
+    if (!m_view.TickTag(tag) || Grid().Text(cell) != QLatin1String("1"))
         throw Refused(*place, QStringLiteral("cannot be ticked"));
-    throw HostError(QStringLiteral("there is no tag '%1'").arg(tag));
 }
 
 void HostedSchedule::Sort(const SortColumn& sort)
