@@ -8,6 +8,8 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include <utility>
+
 namespace schedules::host {
 
 namespace {
@@ -50,9 +52,10 @@ HostError NotEditable(Cell cell)
     return Refused(cell, QStringLiteral("cannot be edited"));
 }
 
-void Invoke(QWidget& view, const char* method, QGenericArgument argument = {})
+template <class... Arguments>
+void Invoke(QWidget& view, const char* method, Arguments&&... arguments)
 {
-    if (!QMetaObject::invokeMethod(&view, method, argument))
+    if (!QMetaObject::invokeMethod(&view, method, std::forward<Arguments>(arguments)...))
         throw HostError(QStringLiteral("the view has no %1").arg(QLatin1String(method)));
 }
 
