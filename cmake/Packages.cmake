@@ -44,7 +44,9 @@ component, and the pages for developers of hosts.")
 set(CPACK_DEBIAN_HOST_PACKAGE_NAME schedhost)
 set(CPACK_DEBIAN_HOST_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_HOST_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_HOST_PACKAGE_DEPENDS "${CPACK_DEBIAN_LIBRARY_PACKAGE_NAME} ${same_version}, libqt6sql6-sqlite, libqt6svg6")
+# Pictures and icons in SVG are read by plugins, which newer releases keep in a package of their own.
+set(CPACK_DEBIAN_HOST_PACKAGE_DEPENDS "${CPACK_DEBIAN_LIBRARY_PACKAGE_NAME} ${same_version}, libqt6sql6-sqlite, \
+qt6-svg-plugins | libqt6svg6 (<< 6.7.2-5~)")
 set(CPACK_DEBIAN_HOST_PACKAGE_RECOMMENDS "libqt6sql6-psql, fonts-liberation")
 set(CPACK_COMPONENT_HOST_DESCRIPTION "program for equipment schedules
 A program around the component for equipment schedules: it keeps tags and
