@@ -1,7 +1,5 @@
 #include "tools/schedule/ctlSchedule.h"
 
-#include "common/StringNumbers.h"
-#include "common/modResource.h"
 #include "controls/desktop/DesktopUserInterface.h"
 #include "controls/grid/SpreadView.h"
 #include "tools/schedule/ScheduleRooms.h"
@@ -13,7 +11,6 @@
 
 #include <QAction>
 #include <QCloseEvent>
-#include <QMenu>
 #include <QPushButton>
 #include <QScrollBar>
 
@@ -25,6 +22,7 @@ ctlSchedule::ctlSchedule(UserInterface* userInterface)
     : ToolControl("ctlSchedule", userInterface),
       m_link(LinkFor(userInterface)),
       m_layout(*this),
+      m_setup(m_link, m_settings, m_layout),
       m_rooms(std::make_unique<ScheduleRooms>(m_link, m_settings, *m_layout.grid)),
       m_commands(std::make_unique<ViewCommands>(m_link, m_settings, *m_rooms)),
       m_menu(std::make_unique<GridMenu>(m_link, m_settings, m_rooms->table, m_rooms->picking, m_rooms->sorting,
@@ -52,6 +50,22 @@ ViewLink ctlSchedule::LinkFor(UserInterface* userInterface)
     return {*this, Link()};
 }
 
+template <class Result, std::invocable Body>
+Result ctlSchedule::Commanded(const char* procedure, Result otherwise, Body&& body)
+{
+    TellingUser(procedure, [&] {
+        m_commands->Begin();
+        otherwise = std::invoke(body);
+    });
+    return otherwise;
+}
+
+template <std::invocable Body>
+void ctlSchedule::Commanded(const char* procedure, Body&& body)
+{
+    Commanded(procedure, true, [&] { return std::invoke(body), true; });
+}
+
 void ctlSchedule::ConnectControls()
 {
     connect(m_layout.toolbar, &ScheduleToolbar::ViewToolClicked, this, &ctlSchedule::ab_ToolClick);
@@ -60,20 +74,12 @@ void ctlSchedule::ConnectControls()
                 m_commands->Begin();
                 Q_EMIT HostToolClicked(owner, key);
             });
-    connect(m_layout.toolbar, &ScheduleToolbar::EntryChosen, this, [this](const QString& entry) {
-        TellingUser("mnuExport_Click", [&] {
-            m_commands->Begin();
-            m_rooms->exports.ExportBy(entry);
-        });
-    });
+    connect(m_layout.toolbar, &ScheduleToolbar::EntryChosen, this,
+            [this](const QString& entry) { Commanded("mnuExport_Click", [&] { m_rooms->exports.ExportBy(entry); }); });
     connect(m_layout.continueButton, &QPushButton::clicked, this, &ctlSchedule::cmdContinue_Click);
     connect(m_layout.closeButton, &QPushButton::clicked, this, &ctlSchedule::cmdCancel_Click);
-    connect(m_layout.grid, &QWidget::customContextMenuRequested, this, [this](QPoint point) {
-        TellingUser("ShowContextMenu", [&] {
-            m_commands->Begin();
-            m_menu->Open(point);
-        });
-    });
+    connect(m_layout.grid, &QWidget::customContextMenuRequested, this,
+            [this](QPoint point) { Commanded("ShowContextMenu", [&] { m_menu->Open(point); }); });
     connect(&m_rooms->editing, &CellEditing::Refused, this, [this] { IgnoringErrors([this] { Ui().Beep(); }); });
     connect(&m_rooms->table, &ShownTable::Loaded, m_layout.legend, [this] { m_layout.legend->Follow(m_rooms->table); });
 }
@@ -110,41 +116,6 @@ void ctlSchedule::FollowActiveCell()
     const auto [tag, item] =
         isData ? m_rooms->table.HeadersOf(sheet->TablePlaceOf(sheet->ActiveCell())) : ShownTable::Headers();
     Q_EMIT ActiveCellChanged(tag, item);
-}
-
-void ctlSchedule::InitializeControls()
-{
-    if (std::exchange(m_initialised, true))
-        return;
-    TraceProcedure(__func__);
-    for (const ViewTool& tool : ViewToolsOf(m_settings)) {
-        AddToolbarButton(QLatin1String(tool.key), tool.image, QLatin1String(tool.caption), LoadResString(tool.tooltip),
-                         true);
-    }
-    BuildExportMenu();
-    m_layout.toolbar->setAccessibleName(ComponentText(QT_TRANSLATE_NOOP("Schedules", "Toolbar")));
-    m_layout.message->Show(m_settings.message);
-}
-
-void ctlSchedule::AddToolbarButton(const QString& key, int image, const QString& caption, const QString& tooltip,
-                                   bool visible)
-{
-    TellingUser(__func__, [&] {
-        m_layout.toolbar->AddViewTool({TypeName(), key, image, caption, tooltip, visible, ToolKind::Button});
-        m_layout.toolbar->updateGeometry();
-        m_layout.toolbar->update();
-    });
-}
-
-void ctlSchedule::BuildExportMenu()
-{
-    auto* menu = new QMenu(LoadResString(kExportCaption), this);
-    menu->setObjectName(QStringLiteral("mnuExport"));
-    for (const ExportFormat& format : ExportFormats()) {
-        if (format.entry)
-            m_layout.toolbar->AddEntry(menu, QLatin1String(format.entry), LoadResString(format.caption));
-    }
-    m_layout.toolbar->AddDropDown(QStringLiteral("btnExport"), menu);
 }
 
 /// Closing the window that is this view is what its last button does.
@@ -188,13 +159,12 @@ void ctlSchedule::IToolUI_XML(const QString& sData)
 
 void ctlSchedule::IToolUI_Activate()
 {
-    TellingUser(__func__, [this] {
-        TraceProcedure("IToolUI_Activate");
-        m_commands->Begin();
+    TraceProcedure(__func__);
+    Commanded(__func__, [this] {
         m_layout.ShowCommandButtons(m_settings.IsSelectorView());
         if (!m_rooms->showing.Activate())
             return;
-        InitializeControls();
+        m_setup.InitializeControls();
         IgnoringErrors([this] { FollowEdits(); });
     });
 }
@@ -207,24 +177,18 @@ void ctlSchedule::IToolUI_Deactivate([[maybe_unused]] bool bCancel)
 
 bool ctlSchedule::LoadScheduleData(const QString& sData)
 {
-    bool loaded = false;
-    TellingUser(__func__, [&] {
+    return Commanded(__func__, false, [&] {
         m_layout.continueButton->hide();
-        m_commands->Begin();
-        loaded = m_rooms->showing.LoadScheduleData(sData);
+        return m_rooms->showing.LoadScheduleData(sData);
     });
-    return loaded;
 }
 
 bool ctlSchedule::LoadSelectionData(const QString& sData)
 {
-    bool loaded = false;
-    TellingUser(__func__, [&] {
+    return Commanded(__func__, false, [&] {
         m_layout.continueButton->show();
-        m_commands->Begin();
-        loaded = m_rooms->showing.LoadSelectionData(sData);
+        return m_rooms->showing.LoadSelectionData(sData);
     });
-    return loaded;
 }
 
 int ctlSchedule::GetUniqueToolID()
@@ -258,16 +222,12 @@ void ctlSchedule::CleanUP()
 
 void ctlSchedule::DoColSort()
 {
-    TellingUser(__func__, [this] {
-        m_commands->Begin();
-        m_commands->DoColSort();
-    });
+    Commanded(__func__, [this] { m_commands->DoColSort(); });
 }
 
 void ctlSchedule::ab_ToolClick(const QString& key)
 {
-    TellingUser(__func__, [&] {
-        m_commands->Begin();
+    Commanded(__func__, [&] {
         if (const auto command = CommandOfKey(key))
             m_commands->Do(*command);
     });
@@ -322,7 +282,7 @@ bool ctlSchedule::CanDo(ViewCommand command) const
 {
     if (command == ViewCommand::Close)
         return m_layout.closeButton->isEnabled();
-    if (!m_initialised || !m_commands->Has(command))
+    if (!m_setup.IsInitialised() || !m_commands->Has(command))
         return false;
     return command != ViewCommand::Save || HasUnsavedEdits();
 }
@@ -333,46 +293,31 @@ bool ctlSchedule::Do(ViewCommand command)
         cmdCancel_Click();
         return true;
     }
-    if (!m_initialised || !m_commands->Has(command))
+    if (!m_setup.IsInitialised() || !m_commands->Has(command))
         return false;
     if (command == ViewCommand::Continue)
         cmdContinue_Click();
     else
-        TellingUser("ab_ToolClick", [&] {
-            m_commands->Begin();
-            m_commands->Do(command);
-        });
+        Commanded("ab_ToolClick", [&] { m_commands->Do(command); });
     return true;
 }
 
 Entry ctlSchedule::EnterText(GridPlace place, const QString& text)
 {
-    auto entry = Entry::NotEditable;
-    TellingUser(__func__, [&] {
-        m_commands->Begin();
-        entry = m_commands->EnterText({Column(place.column), Row(place.row)}, text);
+    return Commanded(__func__, Entry::NotEditable, [&] {
+        return m_commands->EnterText({Column(place.column), Row(place.row)}, text);
     });
-    return entry;
 }
 
 bool ctlSchedule::TickTag(const QString& identifier)
 {
-    bool isTicked = false;
-    TellingUser(__func__, [&] {
-        m_commands->Begin();
-        isTicked = m_rooms->picking.TickTag(identifier);
-    });
-    return isTicked;
+    return Commanded(__func__, false, [&] { return m_rooms->picking.TickTag(identifier); });
 }
 
 bool ctlSchedule::SortBy(int column, bool descending)
 {
-    bool isSorted = false;
-    TellingUser(__func__, [&] {
-        m_commands->Begin();
-        isSorted = m_commands->SortBy(Column(column), descending ? RowOrder::Descending : RowOrder::Ascending);
-    });
-    return isSorted;
+    const RowOrder order = descending ? RowOrder::Descending : RowOrder::Ascending;
+    return Commanded(__func__, false, [&] { return m_commands->SortBy(Column(column), order); });
 }
 
 std::optional<GridPlace> ctlSchedule::FindCell(const QString& tag, const QString& item) const
@@ -383,12 +328,7 @@ std::optional<GridPlace> ctlSchedule::FindCell(const QString& tag, const QString
 
 bool ctlSchedule::ShowCell(const QString& tag, const QString& item)
 {
-    bool isShown = false;
-    TellingUser(__func__, [&] {
-        m_commands->Begin();
-        isShown = m_rooms->table.Show({tag, item});
-    });
-    return isShown;
+    return Commanded(__func__, false, [&] { return m_rooms->table.Show({tag, item}); });
 }
 
 QList<ChangedCell> ctlSchedule::ChangedCells() const

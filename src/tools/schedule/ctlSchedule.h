@@ -5,6 +5,7 @@
 #include "tools/ToolControl.h"
 #include "tools/schedule/ViewLink.h"
 #include "tools/schedule/ViewSettings.h"
+#include "tools/schedule/bar/ControlsSetup.h"
 #include "tools/schedule/bar/ToolIdentifiers.h"
 #include "tools/schedule/layout/ViewLayout.h"
 
@@ -152,11 +153,14 @@ protected:
 
 private:
     ViewLink LinkFor(UserInterface* userInterface);
+    /// Runs a command: an open edit is committed first, and a failure is shown to the user.
+    template <class Result, std::invocable Body>
+    Result Commanded(const char* procedure, Result otherwise, Body&& body);
+    template <std::invocable Body>
+    void Commanded(const char* procedure, Body&& body);
+
     void ConnectControls();
     void ConnectProperties();
-    void InitializeControls();
-    void AddToolbarButton(const QString& key, int image, const QString& caption, const QString& tooltip, bool visible);
-    void BuildExportMenu();
     void ResizeUserControl();
     void FollowEdits();
     void FollowActiveCell();
@@ -166,11 +170,11 @@ private:
     ViewSettings m_settings;
     ViewLink m_link;
     ViewLayout m_layout;
+    ControlsSetup m_setup;
     ToolIdentifiers m_toolIdentifiers;
     std::unique_ptr<ScheduleRooms> m_rooms;
     std::unique_ptr<ViewCommands> m_commands;
     std::unique_ptr<GridMenu> m_menu;
-    bool m_initialised = false; ///< the controls around the grid have been set up
     bool m_hadUnsavedEdits = false;
 };
 
