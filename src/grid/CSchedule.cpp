@@ -134,7 +134,7 @@ bool CSchedule::LoadSelectionData(const QString& xml, bool selectAllTags)
         if (!alive)
             return false;
         if (loaded)
-            TickCheckBoxes(selectAllTags);
+            TickAll(selectAllTags);
         SchedAutoSize();
         SchedFormatData(3);
         Layout().StyleHeaderRow(VerticalAlignment::Top);
@@ -202,9 +202,9 @@ void CSchedule::ApplyRow(const RowAttributes& row)
 {
     const bool transposed = RowsActOnColumns();
     if (transposed && row.bold && !row.userDefined)
-        HideColumn(Column(row.row));
+        m_sched->SetHidden(Column(row.row), true);
     if (row.hidden)
-        transposed ? HideColumn(Column(row.row)) : HideRow(Row(row.row));
+        transposed ? m_sched->SetHidden(Column(row.row), true) : m_sched->SetHidden(Row(row.row), true);
     if (transposed && row.bold)
         m_sched->SetBold(WholeRow(Row(row.row)), true);
     if (row.backColor)
@@ -214,9 +214,9 @@ void CSchedule::ApplyRow(const RowAttributes& row)
 void CSchedule::ApplyHeader(int index, const HeaderAttributes& header)
 {
     if (header.hidden && RowsActOnColumns())
-        HideColumn(Column(index));
+        m_sched->SetHidden(Column(index), true);
     if (header.hidden && m_schedOrientation == 0)
-        HideRow(Row(index));
+        m_sched->SetHidden(Row(index), true);
     if (header.bold)
         m_sched->SetBold(WholeColumn(Column(index)), true);
     if (header.backColor) {
@@ -225,11 +225,10 @@ void CSchedule::ApplyHeader(int index, const HeaderAttributes& header)
     }
 }
 
-void CSchedule::TickCheckBoxes(bool ticked)
+void CSchedule::TickAll(bool ticked)
 {
-    const QString text = ticked ? QStringLiteral("1") : QStringLiteral("0");
-    for (const Cell cell : m_sched->CellsOfType(CellType::CheckBox))
-        m_sched->SetText(cell, text);
+    for (const Cell cell : m_sched->CellsWith([](CellStyle style) { return KindOf(style).Toggles(); }))
+        m_sched->SetText(cell, TextOfState(ticked));
 }
 
 void CSchedule::SetGridSize(int columns, int rows)
@@ -237,16 +236,6 @@ void CSchedule::SetGridSize(int columns, int rows)
     if (RowsActOnColumns())
         std::swap(columns, rows);
     m_sched->SetSize(columns, rows);
-}
-
-void CSchedule::HideRow(Row row)
-{
-    m_sched->SetHidden(row, true);
-}
-
-void CSchedule::HideColumn(Column column)
-{
-    m_sched->SetHidden(column, true);
 }
 
 void CSchedule::SchedAutoSize()

@@ -6,7 +6,6 @@
 #include "grid/ScheduleTable.h"
 #include "spread/Sheet.h"
 
-#include <QDateTime>
 #include <QString>
 
 #include <cstdint>
@@ -167,11 +166,9 @@ private:
     void ApplyHeader(int index, const HeaderAttributes& header);
     void ResetFilledSheet();
     void ResetSheet();
-    void TickCheckBoxes(bool ticked);
+    void TickAll(bool ticked);
 
     void SetGridSize(int columns, int rows);
-    void HideRow(Row row);
-    void HideColumn(Column column);
 
     bool SchedFormatData(int firstColumn);
     bool RowsActOnColumns() const { return m_schedOrientation == 1; }

@@ -40,7 +40,7 @@ bool IsNumber(std::string_view text)
     return isNumber;
 }
 
-CellAttributes Understood(const XmlStartTag& tag, CellKind kind)
+CellAttributes Understood(const XmlStartTag& tag, CellElement element)
 {
     CellAttributes cell;
     bool visible = false;
@@ -62,7 +62,7 @@ CellAttributes Understood(const XmlStartTag& tag, CellKind kind)
         else if (name == "AllowEdit")
             cell.style.allowEdit = value == kTrue;
     }
-    if (kind == CellKind::Data && cell.style.dataType == DataType::CheckBox) {
+    if (element == CellElement::Data && cell.style.dataType == DataType::CheckBox) {
         cell.hidesValue = !visible;
         cell.style.type = visible ? CellType::CheckBox : CellType::StaticText;
     }
@@ -101,23 +101,23 @@ DataType DataTypeNamed(std::string_view text)
     return found == kDataTypes.end() ? DataType::Text : found->second;
 }
 
-const CellAttributes& CellAttributesReader::Read(const XmlStartTag& tag, CellKind kind)
+const CellAttributes& CellAttributesReader::Read(const XmlStartTag& tag, CellElement element)
 {
     if (tag.attributes.empty())
         return m_plain;
-    const std::string_view key = KeyOf(tag, kind);
+    const std::string_view key = KeyOf(tag, element);
     if (const auto known = m_known.find(key); known != m_known.end())
         return known->second;
     if (m_known.size() >= kMostRemembered)
         m_known.clear();
-    return m_known.emplace(key, Understood(tag, kind)).first->second;
+    return m_known.emplace(key, Understood(tag, element)).first->second;
 }
 
-std::string_view CellAttributesReader::KeyOf(const XmlStartTag& tag, CellKind kind)
+std::string_view CellAttributesReader::KeyOf(const XmlStartTag& tag, CellElement element)
 {
     if (!tag.written.empty())
         return tag.written;
-    m_key.assign(1, kind == CellKind::Data ? 'D' : 'H');
+    m_key.assign(1, element == CellElement::Data ? 'D' : 'H');
     for (const XmlAttribute& attribute : tag.attributes) {
         AppendField(m_key, attribute.inNamespace ? std::string_view() : attribute.name);
         AppendField(m_key, attribute.value);

@@ -21,7 +21,7 @@ struct CellAttributes
     std::optional<std::uint32_t> backColor;
 };
 
-enum class CellKind
+enum class CellElement
 {
     Header,
     Data
@@ -31,7 +31,7 @@ enum class CellKind
 class CellAttributesReader
 {
 public:
-    const CellAttributes& Read(const XmlStartTag& tag, CellKind kind);
+    const CellAttributes& Read(const XmlStartTag& tag, CellElement element);
 
 private:
     struct Hash
@@ -41,7 +41,7 @@ private:
     };
 
     /// What tells tags apart that say different things.
-    std::string_view KeyOf(const XmlStartTag& tag, CellKind kind);
+    std::string_view KeyOf(const XmlStartTag& tag, CellElement element);
 
     static constexpr std::size_t kMostRemembered = 4096;
 

@@ -39,7 +39,7 @@ void ScheduleReader::OpenRow(Open& element, Open& parent)
 
 void ScheduleReader::ReadCell(Open& element, Open& row, const XmlStartTag& tag)
 {
-    const CellAttributes& attributes = m_attributes.Read(tag, tag.Is("TD") ? CellKind::Data : CellKind::Header);
+    const CellAttributes& attributes = m_attributes.Read(tag, tag.Is("TD") ? CellElement::Data : CellElement::Header);
     if (tag.Is("TH"))
         ReadHeader(row, attributes);
     if (!row.isRow)

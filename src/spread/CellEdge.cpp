@@ -15,7 +15,9 @@ bool StandsFar(DataType type, std::string_view utf8)
 
 CellEdge EdgeOf(HorizontalAlignment alignment, CellStyle style, std::string_view utf8)
 {
-    if (style.type == CellType::CheckBox || alignment == HorizontalAlignment::Center)
+    if (const auto edge = KindOf(style).edge)
+        return *edge;
+    if (alignment == HorizontalAlignment::Center)
         return CellEdge::Center;
     const bool isFar = alignment == HorizontalAlignment::Data && StandsFar(style.dataType, utf8);
     return isFar ? CellEdge::Far : CellEdge::Near;

@@ -6,16 +6,8 @@
 
 namespace schedules {
 
-/// Where in its cell a text stands, along the line: on screen, on paper and in files.
-enum class CellEdge : std::uint8_t
-{
-    Near,
-    Center,
-    Far
-};
-
-/// Check boxes stand in the middle. Aligned by their data, values of a type of numbers and texts that read as numbers
-/// stand at the far edge, other texts at the near one. A type that is a code says nothing about that.
+/// Some kinds of cells stand where their table says. Aligned by their data, values of a type of numbers and texts that
+/// read as numbers stand at the far edge, other texts at the near one. A type that is a code says nothing about that.
 CellEdge EdgeOf(HorizontalAlignment alignment, CellStyle style, std::string_view utf8);
 
 } // namespace schedules

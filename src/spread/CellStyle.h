@@ -1,14 +1,13 @@
 #pragma once
 
+#include "spread/CellKind.h"
+
+#include <QString>
+
 #include <cstdint>
+#include <string_view>
 
 namespace schedules {
-
-enum class CellType : std::uint8_t
-{
-    StaticText,
-    CheckBox
-};
 
 enum class DataType : std::uint8_t
 {
@@ -39,6 +38,23 @@ struct CellStyle
 
     bool operator==(const CellStyle&) const = default;
 };
+
+constexpr const CellKind& KindOf(CellStyle style)
+{
+    return kCellKinds[static_cast<std::size_t>(style.type)];
+}
+
+/// Whether the text of a cell says that it is ticked; only one that toggles can be.
+constexpr bool IsTicked(CellStyle style, std::string_view utf8)
+{
+    return KindOf(style).Toggles() && utf8 == "1";
+}
+
+/// The text of a cell that toggles.
+inline QString TextOfState(bool ticked)
+{
+    return ticked ? QStringLiteral("1") : QStringLiteral("0");
+}
 
 /// The numbers are those of the grid's alignment options.
 enum class HorizontalAlignment : std::uint8_t

@@ -86,10 +86,10 @@ void PageTable::AppendCell(ShownColumn& column, Row row)
 
 void PageTable::AppendContent(CellStyle style, std::string_view text)
 {
-    if (style.type == CellType::CheckBox)
-        m_text += text == "1" ? m_ticked : m_unticked;
-    else
+    if (KindOf(style).showsText)
         AppendHtml(m_text, text);
+    else
+        m_text += IsTicked(style, text) ? m_ticked : m_unticked;
 }
 
 PageLook PageTable::LookOf(Cell cell, CellStyle style, std::string_view text) const

@@ -12,7 +12,7 @@ WorkbookCell WorkbookCellOf(const Sheet& sheet, Cell cell)
     if (text.empty())
         return content;
     content.kind = WorkbookCell::Kind::Text;
-    if (!IsNumeric(style.dataType) && style.type != CellType::CheckBox)
+    if (!IsNumeric(style.dataType) && !KindOf(style).holdsNumber)
         return content;
     if (const auto number = PlainNumberIn(text)) {
         content.kind = WorkbookCell::Kind::Number;

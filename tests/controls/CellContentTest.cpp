@@ -32,7 +32,7 @@ TEST(CellContent, ACheckBoxIsTickedWhenItReadsOne)
                                                  "1| [x] | [ ] | 1"));
     EXPECT_TRUE(ContentOf(*sheet, At(1, 1)).Ticked());
     EXPECT_FALSE(ContentOf(*sheet, At(2, 1)).Ticked());
-    EXPECT_TRUE(ContentOf(*sheet, At(2, 1)).IsCheckBox());
+    EXPECT_TRUE(ContentOf(*sheet, At(2, 1)).Kind().Toggles());
     EXPECT_FALSE(ContentOf(*sheet, At(3, 1)).Ticked());
 }
 

@@ -178,6 +178,19 @@ TEST(SheetPrinterTable, ATextThatIsALittleTooWideIsNarrowed)
     EXPECT_EQ(Ink(picture, CellRect(2, 1)), 0);
 }
 
+TEST(SheetPrinterTable, ATextThatFitsItsColumnOnScreenIsWholeOnPaper)
+{
+    for (const char* family : {"DejaVu Sans", "DejaVu Sans Mono", "DejaVu Serif", "Liberation Sans", "Liberation Mono"})
+    {
+        for (const char* text : {"1234567.5", "WWWWWWWWWW", "iiiiiiiiiiii", "AVAVA"}) {
+            Printed printed(QStringLiteral("|\n|") + QLatin1String(text));
+            printed.sheet->SetFont(QFont(QLatin1String(family), 9));
+            printed.sheet->SetColumnWidth(Column(1), printed.sheet->WidestText(Column(1)));
+            EXPECT_EQ(printed.Text(), std::string(text) + "\nPage 1 of 1") << family;
+        }
+    }
+}
+
 TEST(SheetPrinterTable, TextsOfARowOfOneLineStandOnOneLine)
 {
     Printed printed(QStringLiteral("||\n|up|down"));

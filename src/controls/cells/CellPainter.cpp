@@ -3,8 +3,6 @@
 #include "controls/cells/SheetColors.h"
 
 #include <QGlyphRun>
-#include <QStyle>
-#include <QStyleOptionButton>
 #include <QTextLayout>
 
 #include <algorithm>
@@ -20,12 +18,10 @@ constexpr double kOneLineShare = 0.1;
 /// How far a text on paper may be narrowed.
 constexpr double kNarrowest = 0.5;
 
-constexpr double kOutlineShare = 0.5;
-
 } // namespace
 
 CellPainter::CellPainter(QPainter& painter, CellFaces& faces, const CellLook& look)
-    : m_painter(painter), m_faces(faces), m_look(look), m_room(*painter.device())
+    : m_painter(painter), m_faces(faces), m_look(look), m_room(*painter.device()), m_symbols(painter, faces, look)
 {
 }
 
@@ -58,12 +54,15 @@ QColor CellPainter::GroundOf(const CellContent& content, const QColor& otherwise
 
 void CellPainter::Paint(const CellContent& content, const QRect& cell, const QColor& ground)
 {
-    if (content.IsCheckBox())
-        PaintCheckBox(content, cell, ground);
-    else if (!content.text.isEmpty()) {
-        UseInkFor(ground);
+    const CellKind& kind = content.Kind();
+    const bool showsText = kind.showsText && !content.text.isEmpty();
+    if (!showsText && !kind.hasSymbol)
+        return;
+    UseInkFor(ground);
+    if (showsText)
         PaintText(content, cell);
-    }
+    if (kind.hasSymbol)
+        m_symbols.Paint(content, cell, ground, m_ink.color);
 }
 
 void CellPainter::UseInkFor(const QColor& ground)
@@ -180,56 +179,6 @@ double CellPainter::TopOf(const CellContent& content, const QRect& room, double 
     if (isOneLineRow || content.vAlign == VerticalAlignment::Center)
         return room.top() + std::max(spare, 0.0) / 2;
     return room.top() + (content.vAlign == VerticalAlignment::Bottom ? spare : 0);
-}
-
-void CellPainter::PaintCheckBox(const CellContent& content, const QRect& cell, const QColor& ground)
-{
-    UseInkFor(ground);
-    if (!m_look.widget) {
-        const double side = std::min<double>(m_faces.Ascent(false), std::min(cell.width(), cell.height()) - 2);
-        QRectF box(0, 0, side, side);
-        box.moveCenter(QRectF(cell).center());
-        PaintPaperBox(box, content.Ticked());
-        return;
-    }
-    const QStyle* style = m_look.widget->style();
-    QStyleOptionButton option;
-    option.initFrom(m_look.widget);
-    option.palette = IndicatorPalette(ground);
-    option.state = QStyle::State_Enabled | (content.Ticked() ? QStyle::State_On : QStyle::State_Off);
-    option.rect = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter,
-                                      QSize(style->pixelMetric(QStyle::PM_IndicatorWidth, &option, m_look.widget),
-                                            style->pixelMetric(QStyle::PM_IndicatorHeight, &option, m_look.widget)),
-                                      cell.adjusted(0, 0, -1, -1));
-    m_painter.save();
-    style->drawPrimitive(QStyle::PE_IndicatorCheckBox, &option, &m_painter, m_look.widget);
-    m_painter.restore();
-}
-
-/// Styles take the box from these colors; those of the window may be invisible on a colored cell or in a dark palette.
-QPalette CellPainter::IndicatorPalette(const QColor& ground) const
-{
-    QPalette palette(m_look.palette);
-    palette.setColor(QPalette::Base, ground);
-    palette.setColor(QPalette::Window, Blend(ground, m_ink.color, kOutlineShare));
-    palette.setColor(QPalette::Text, m_ink.color);
-    palette.setColor(QPalette::WindowText, m_ink.color);
-    return palette;
-}
-
-void CellPainter::PaintPaperBox(const QRectF& box, bool ticked)
-{
-    const double thin = box.width() / 12;
-    m_painter.save();
-    m_painter.setPen(QPen(m_ink.color, thin));
-    m_painter.drawRect(box);
-    if (ticked) {
-        m_painter.setPen(QPen(m_ink.color, 2 * thin));
-        const auto at = [&](double x, double y) { return box.topLeft() + QPointF(x, y) * box.width(); };
-        const std::array tick{at(0.2, 0.5), at(0.42, 0.75), at(0.8, 0.25)};
-        m_painter.drawPolyline(tick.data(), static_cast<int>(tick.size()));
-    }
-    m_painter.restore();
 }
 
 } // namespace schedules

@@ -1,32 +1,13 @@
 #pragma once
 
 #include "controls/cells/CellRoom.h"
-
-#include <QPainter>
-#include <QPalette>
+#include "controls/cells/CellSymbols.h"
 
 #include <array>
 
 class QTextLayout;
 
 namespace schedules {
-
-/// How texts are drawn: as glyphs where that is possible, which is faster, or always as texts, which paper needs for
-/// its text to be found and copied.
-enum class TextDrawing
-{
-    Fast,
-    AsText
-};
-
-/// What all cells of a picture have in common.
-struct CellLook
-{
-    QPalette palette;
-    TextDrawing drawing = TextDrawing::Fast;
-    Qt::LayoutDirection direction = Qt::LeftToRight;
-    const QWidget* widget = nullptr; ///< whose style draws check boxes; none on paper, where they are drawn in lines
-};
 
 /// Paints what stands in a cell, on screen or on paper: text or check box, on a ground that the caller has painted.
 ///
@@ -63,9 +44,6 @@ private:
     void PaintLines(const CellContent& content, const QRect& room);
     double NarrowingOf(double width, double room) const;
     void DrawIn(const QRect& room, const QTextLayout& layout, QPointF topLeft, double height, double narrowing = 1);
-    void PaintCheckBox(const CellContent& content, const QRect& cell, const QColor& ground);
-    QPalette IndicatorPalette(const QColor& ground) const;
-    void PaintPaperBox(const QRectF& box, bool ticked);
     void UseInkFor(const QColor& ground);
 
     bool NearIsLeft(CellEdge edge) const;
@@ -77,6 +55,7 @@ private:
     CellFaces& m_faces;
     const CellLook& m_look;
     CellRoom m_room;
+    CellSymbols m_symbols;
     Ink m_ink;
     std::array<GlyphRow, 2> m_glyphs; ///< kept back, to be drawn together: regular, bold
 };

@@ -63,7 +63,7 @@ double LayOutInWidth(QTextLayout& layout, double width)
 
 bool IsCutOff(const CellContent& content, const QSize& cell, const CellFaces& faces, const QPaintDevice& device)
 {
-    if (content.IsCheckBox() || content.text.isEmpty())
+    if (!content.Kind().showsText || content.text.isEmpty())
         return false;
     const double width = (CellRoom(device).Within({{}, cell}).width() + kRounding) / faces.Scale();
     QTextLayout layout(content.wraps ? InLines(content.text) : content.text, faces.Font(content.bold));

@@ -39,7 +39,7 @@ QString SpreadCellAccessible::text(QAccessible::Text kind) const
         return ComponentText("Changed, not saved");
     if (kind != QAccessible::Name)
         return {};
-    return content.IsCheckBox() ? TheSheet().Text({m_cell.column, Row(0)}) : content.text;
+    return content.Kind().showsText ? content.text : TheSheet().Text({m_cell.column, Row(0)});
 }
 
 QRect SpreadCellAccessible::rect() const
@@ -55,7 +55,9 @@ QAccessible::Role SpreadCellAccessible::role() const
 {
     if (m_cell.row.Value() == 0)
         return QAccessible::ColumnHeader;
-    return m_cell.column.Value() == 0 ? QAccessible::RowHeader : QAccessible::Cell;
+    if (m_cell.column.Value() == 0)
+        return QAccessible::RowHeader;
+    return isValid() ? KindOf(TheSheet().Style(m_cell)).role : QAccessible::Cell;
 }
 
 QAccessible::State SpreadCellAccessible::state() const
@@ -67,7 +69,7 @@ QAccessible::State SpreadCellAccessible::state() const
     }
     const CellContent content = ContentOf(TheSheet(), m_cell);
     state.offscreen = m_view->SeenRect(m_cell).isEmpty();
-    state.checkable = content.IsCheckBox();
+    state.checkable = content.Kind().Toggles();
     state.checked = content.Ticked();
     state.editable = MayBeEdited();
     state.readOnly = !state.editable;
@@ -86,7 +88,7 @@ QStringList SpreadCellAccessible::actionNames() const
 {
     if (!isValid() || IsHeader())
         return {};
-    if (TheSheet().Style(m_cell).type == CellType::CheckBox)
+    if (KindOf(TheSheet().Style(m_cell)).Toggles())
         return {toggleAction()};
     return MayBeEdited() ? QStringList{pressAction()} : QStringList();
 }

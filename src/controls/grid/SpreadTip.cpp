@@ -3,6 +3,7 @@
 #include "controls/cells/CellRoom.h"
 
 #include <QHelpEvent>
+#include <QTextDocument>
 #include <QToolTip>
 
 namespace schedules {

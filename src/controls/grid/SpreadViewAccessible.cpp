@@ -65,7 +65,7 @@ void TellTableChanged(SpreadView& view)
 
 void TellCellChanged(SpreadView& view, Cell cell)
 {
-    if (view.TheSheet()->Style(cell).type == CellType::CheckBox) {
+    if (KindOf(view.TheSheet()->Style(cell)).Toggles()) {
         QAccessible::State changed;
         changed.checked = true;
         TellAbout(view, cell, QAccessibleStateChangeEvent(&view, changed));
