@@ -11,8 +11,7 @@ CellContent ContentOf(const Sheet& sheet, Cell cell)
     const auto [utf8, style] = sheet.Content(cell);
     content.style = style;
     content.backColor = sheet.BackColor(cell);
-    content.hAlign = sheet.HAlign(cell);
-    content.edge = EdgeOf(content.hAlign, style, utf8);
+    content.edge = EdgeOf(sheet.HAlign(cell), style, utf8);
     content.vAlign = sheet.VAlign(cell);
     content.bold = sheet.Bold(cell);
     content.wraps = sheet.Wraps(cell);

@@ -16,7 +16,6 @@ struct CellContent
     QString text; ///< without characters that move a line on; blanks stand in their places unless the cell wraps
     CellStyle style;
     std::optional<std::uint32_t> backColor;
-    HorizontalAlignment hAlign = HorizontalAlignment::Left;
     CellEdge edge = CellEdge::Near;
     VerticalAlignment vAlign = VerticalAlignment::Top;
     bool bold = false;
@@ -27,11 +26,5 @@ struct CellContent
 };
 
 CellContent ContentOf(const Sheet& sheet, Cell cell);
-
-/// Whether the content stands at the far edge.
-inline bool IsNumber(const CellContent& content)
-{
-    return content.edge == CellEdge::Far;
-}
 
 } // namespace schedules

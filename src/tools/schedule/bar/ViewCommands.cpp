@@ -122,7 +122,7 @@ Entry ViewCommands::EnterText(Cell cell, const QString& text)
     if (sheet.Hidden(cell.column) || sheet.Hidden(cell.row))
         return Entry::Hidden;
     sheet.SetActiveCell(cell);
-    if (sheet.Style(cell).type == CellType::CheckBox)
+    if (KindOf(sheet.Style(cell)).Toggles())
         return EnterTick(cell, text);
     switch (m_rooms.editing.Type(cell, text)) {
     case CellEditing::Typed::Taken:

@@ -95,9 +95,9 @@ bool CellEditing::CellEditable(Sheet::TablePlace place) const
     return IsDataCell(cell) && Table().Style(cell).allowEdit && m_settings.IsScheduleView() && m_edits.MayEdit(cell);
 }
 
-bool CellEditing::IsEditableCheckBox(Cell cell) const
+bool CellEditing::IsToggledCell(Cell cell) const
 {
-    return Table().Style(cell).type == CellType::CheckBox && CellEditable(Table().TablePlaceOf(cell));
+    return KindOf(Table().Style(cell)).Toggles() && CellEditable(Table().TablePlaceOf(cell));
 }
 
 void CellEditing::OnCellMoved(Cell cell)
@@ -112,7 +112,7 @@ void CellEditing::StartCellEdit(Cell cell)
         if (m_table.Engine().SchedOrientation() == 1 && cell.row == Row(0)) {
             m_grid.SelectColumn(cell.column);
             m_table.Engine().Sched()->SetRepainting(true);
-        } else if (CellEditable(Table().TablePlaceOf(cell)) && !IsEditableCheckBox(cell))
+        } else if (CellEditable(Table().TablePlaceOf(cell)) && !IsToggledCell(cell))
             BeginCellEdit(cell.column, cell.row);
     });
 }
@@ -253,7 +253,7 @@ bool CellEditing::CommitByKey(const QKeyEvent& event)
 /// A check box opens no edit that Tab could leave, so Tab leaves the cell itself.
 bool CellEditing::LeaveCheckBox(bool forward)
 {
-    return !m_edit.editing && IsEditableCheckBox(Table().ActiveCell()) && GoOnToEditable(forward);
+    return !m_edit.editing && IsToggledCell(Table().ActiveCell()) && GoOnToEditable(forward);
 }
 
 bool CellEditing::GoOnToEditable(bool forward)

@@ -33,7 +33,9 @@ public:
 
     /// Whether the table lets the user change the cell at that place, now. Headers never.
     bool CellEditable(Sheet::TablePlace place) const;
-    bool IsEditableCheckBox(Cell cell) const;
+
+    /// The same of a cell that a click changes to its other state.
+    bool IsToggledCell(Cell cell) const;
 
     bool IsEditing() const { return m_edit.editing; }
 

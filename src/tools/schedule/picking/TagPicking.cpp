@@ -26,9 +26,9 @@ TagPicking::TagPicking(ShownTable& table, CellEditing& editing, EditSession& edi
 bool TagPicking::Toggles(Cell cell) const
 {
     const Sheet* sheet = m_table.Shown();
-    if (!sheet || sheet->Style(cell).type != CellType::CheckBox)
+    if (!sheet || !KindOf(sheet->Style(cell)).Toggles())
         return false;
-    return m_settings.IsSelectorView() || m_editing.IsEditableCheckBox(cell);
+    return m_settings.IsSelectorView() || m_editing.IsToggledCell(cell);
 }
 
 void TagPicking::SetTicked(Cell cell, bool ticked)
