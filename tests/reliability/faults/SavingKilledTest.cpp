@@ -4,7 +4,6 @@
 #include "TriedSaving.h"
 
 #include <algorithm>
-#include <array>
 #include <chrono>
 #include <gtest/gtest.h>
 #include <iostream>
@@ -18,7 +17,6 @@ using schedules::testing::FileOperation;
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
 using Moment = std::chrono::microseconds;
 
 constexpr int kKills = 200; ///< that come while the program is saving
@@ -29,27 +27,21 @@ std::string NameOf(const ::testing::TestParamInfo<SavingKind>& info)
     return info.param.name;
 }
 
-/// From the word that it begins to the word that it has ended: the end of the process takes time, too.
-Moment MeasuredDuration(TriedSaving& saving)
+/// Moments from now on among which most come while a program saves, however busy the machine is: each that comes too
+/// late draws the others nearer.
+class Moments
 {
-    const auto process = saving.Begin();
-    process->AwaitWord();
-    const auto begin = Clock::now();
-    process->AwaitWord();
-    const auto duration = std::chrono::duration_cast<Moment>(Clock::now() - begin);
-    process->Await();
-    saving.ExpectFormerOrNew(TriedSaving::Leftovers::None);
-    return duration;
-}
+public:
+    explicit Moments(unsigned seed) : m_random(seed) {}
 
-/// How long a saving takes, on a machine that may be busy with other things now and then.
-Moment Duration(TriedSaving& saving)
-{
-    std::array<Moment, 5> durations;
-    std::ranges::generate(durations, [&] { return MeasuredDuration(saving); });
-    std::ranges::sort(durations);
-    return durations[durations.size() / 2];
-}
+    Moment Next() { return Moment(static_cast<Moment::rep>(m_latest * m_share(m_random))); }
+    void Learn(bool cameInTime) { m_latest = std::max(1.0, m_latest * (cameInTime ? 1.05 : 0.9)); }
+
+private:
+    std::mt19937 m_random;
+    std::uniform_real_distribution<> m_share{0, 1};
+    double m_latest = 5000;
+};
 
 /// Whether the saving was killed before it had ended.
 bool KilledAfter(Moment moment, TriedSaving& saving)
@@ -91,14 +83,15 @@ TEST_P(SavingKilledAtRandom, LeavesWhatWasThereOrWhatIsNew)
 {
     const auto seed = std::random_device()();
     std::cout << "seed " << seed << '\n';
-    std::mt19937 random(seed);
+    Moments moments(seed);
     TriedSaving saving(GetParam());
-    std::uniform_int_distribution<Moment::rep> moments(0, Duration(saving).count());
     int kills = 0;
     int tries = 0;
     for (; kills < kKills && tries < kMostTries; ++tries) {
         SCOPED_TRACE(tries);
-        kills += KilledAfter(Moment(moments(random)), saving) ? 1 : 0;
+        const bool cameInTime = KilledAfter(moments.Next(), saving);
+        moments.Learn(cameInTime);
+        kills += cameInTime ? 1 : 0;
     }
     EXPECT_EQ(kills, kKills) << "the others came too late";
     RecordProperty("kills", kills);
