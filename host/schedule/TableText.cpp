@@ -1,7 +1,7 @@
 #include "host/schedule/TableText.h"
 
 #include "framework/Message.h"
-#include "grid/CSchedule.h"
+#include "grid/UnitLabel.h"
 #include "model/PropertyValue.h"
 
 #include <algorithm>
@@ -52,7 +52,7 @@ QString HeaderCell(const QString& attributes, const QString& text)
 
 QString CaptionWithUnit(const QString& caption, const QString& unit)
 {
-    return unit.isEmpty() ? caption : caption + u' ' + CSchedule::GetUnitLabel(unit);
+    return unit.isEmpty() ? caption : caption + u' ' + UnitLabel(unit);
 }
 
 bool IsTicked(const QString& text)

@@ -3,6 +3,7 @@
 #include "common/Error.h"
 #include "common/StringNumbers.h"
 #include "common/modResource.h"
+#include "grid/UnitLabel.h"
 #include "spread/PrintCodes.h"
 #include "spread/RepaintingOff.h"
 
@@ -285,7 +286,7 @@ void CSchedule::SchedShowUnits()
 
 QString CSchedule::GetUnitLabel(const QString& unit)
 {
-    return unit.isEmpty() ? QString() : QStringLiteral("(%1)").arg(unit);
+    return UnitLabel(unit);
 }
 
 void CSchedule::PrintSched()

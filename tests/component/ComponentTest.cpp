@@ -151,7 +151,7 @@ TEST(ComponentLibrary, ExportsTheContractAndNothingElse)
                        "schedules::(C(Template|Group|Element|Propert|Categor)\\w*|NamedMembers<\\S+>)::.*|"
                        "schedules::(TextOf|FlagOf|FoldedKey|MemberId::(Set|ForgetOnWrite))(\\[abi:\\w+\\])?\\(.*|"
                        "schedules::CFileUtility::(Find|DeleteFile|Get|Is|MatchesMask|~CFileUtility).*|"
-                       "schedules::CSchedule::GetUnitLabel\\(.*|"
+                       "schedules::UnitLabel\\(.*|"
                        "(vtable|typeinfo|typeinfo name|non-virtual thunk to|guard variable) ?(for)? ?"
                        "schedules::(Sheet|CFileUtility|IToolUI|IMsgRouter|IComponentFactory|UserInterface)\\b.*)$"));
     const QStringList names = ExportedNames();

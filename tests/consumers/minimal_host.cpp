@@ -3,11 +3,11 @@
 
 #include "framework/IComponentFactory.h"
 #include "framework/IMsgRouter.h"
+#include "framework/IScheduleView.h"
 #include "framework/IToolUI.h"
 
 #include <QApplication>
 #include <QFile>
-#include <QKeyEvent>
 #include <QMainWindow>
 #include <QTemporaryDir>
 
@@ -32,12 +32,6 @@ private:
     int m_texts;
 };
 
-void Press(QWidget* widget, int key, const QString& text = {})
-{
-    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
-    QCoreApplication::sendEvent(widget, &press);
-}
-
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
@@ -56,15 +50,14 @@ int main(int argc, char* argv[])
     window.setCentralWidget(view); // which makes the window its owner
     window.show();
 
-    Press(view->findChild<QWidget*>("vaSpread1"), Qt::Key_Down); // opens the first value
-    Press(view->findChild<QWidget*>("txtEditCell"), Qt::Key_unknown, "7");
-    Press(view->findChild<QWidget*>("txtEditCell"), Qt::Key_Return);
-    QMetaObject::invokeMethod(view, "ab_ToolClick", Q_ARG(QString, "btnSaveTag"));
+    auto* schedule = qobject_cast<schedules::IScheduleView*>(view);
+    schedule->EnterText({1, 1}, "7"); // as a user would type it
+    schedule->Do(schedules::ViewCommand::Save);
 
     QTemporaryDir folder;
     QFile shown(folder.filePath("shown.csv"));
-    QMetaObject::invokeMethod(view, "WriteFile", Q_ARG(QString, "csv"), Q_ARG(QString, shown.fileName()));
-    const bool isRead = texts > 0 && shown.open(QFile::ReadOnly);
+    const QString failure = schedule->WriteFile("csv", shown.fileName());
+    const bool isRead = texts > 0 && failure.isEmpty() && shown.open(QFile::ReadOnly);
     std::printf("%s", shown.readAll().constData());
     return isRead ? 0 : 1; // a real host goes on with application.exec()
 }

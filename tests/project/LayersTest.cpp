@@ -49,7 +49,7 @@ const QHash<QString, QStringList> kMayInclude{
     {"host/base", {}},
     {"host/files", {"host/base", "common/FileReplacement.h"}},
     {"host/project", {"host/base", "framework"}},
-    {"host/schedule", {"host/base", "host/project", "framework", "model", "grid/CSchedule.h"}},
+    {"host/schedule", {"host/base", "host/project", "framework", "model", "grid/UnitLabel.h"}},
     {"host/import", {"host/base", "host/project", "host/schedule"}},
     {"host/tools", {"host/base", "host/files", "framework", "common/UserInterface.h", "spread/Sheet.h"}},
     {"host/answers", {"host/base", "host/files", "host/project", "host/schedule", "host/tools"}},

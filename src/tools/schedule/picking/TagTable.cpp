@@ -8,7 +8,6 @@ namespace schedules {
 namespace {
 
 constexpr auto kTicked = "1";
-constexpr auto kNotTicked = "0";
 
 constexpr int kIdentifierLine = 1;
 constexpr int kCheckBoxLine = 2;
@@ -29,11 +28,6 @@ QString TagElement(const QString& identifier)
 }
 
 } // namespace
-
-QString CheckBoxText(bool ticked)
-{
-    return QLatin1String(ticked ? kTicked : kNotTicked);
-}
 
 bool IsTicked(const Sheet& sheet, Cell cell)
 {

@@ -20,9 +20,6 @@ enum class Tags
     AreRows
 };
 
-/// The text of a check box.
-QString CheckBoxText(bool ticked);
-
 /// Only the text "1" is a tick.
 bool IsTicked(const Sheet& sheet, Cell cell);
 
