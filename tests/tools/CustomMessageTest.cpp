@@ -141,7 +141,7 @@ TEST(CustomMessage, OfTenMegabytesIsShown)
 
 TEST(CustomMessage, IsShownInLinearTime)
 {
-    EXPECT_LT(testing::CostOfTwice(5'000, ShownHeight), testing::kLinear);
+    EXPECT_LT(testing::CostOfFourTimes(2'500, ShownHeight), testing::kLinear);
 }
 
 TEST(CustomMessage, IsAsHighAsItsText)
