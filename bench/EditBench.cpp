@@ -5,6 +5,7 @@
 #include "Quiet.h"
 #include "ShownSchedule.h"
 #include "grid/CSchedule.h"
+#include "tools/schedule/edits/HeldDocument.h"
 
 #include <QAction>
 #include <QMenu>
@@ -58,7 +59,7 @@ void OpenDocument(benchmark::State& state)
     for (auto _ : state) {
         HeldDocument document;
         document.Hold(xml);
-        benchmark::DoNotOptimize(document.SetCellText({500, 500}, QStringLiteral("x")));
+        benchmark::DoNotOptimize(document.SetCellText({500, 500}, QStringLiteral("x"), {}));
     }
 }
 

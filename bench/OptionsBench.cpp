@@ -6,6 +6,7 @@
 #include "controls/lists/CheckList.h"
 #include "framework/IMsgRouter.h"
 #include "framework/Message.h"
+#include "model/CTemplates.h"
 #include "tools/options/ctlSchedOptions.h"
 
 #include <QComboBox>
