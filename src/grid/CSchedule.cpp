@@ -229,7 +229,7 @@ void CSchedule::ApplyHeader(int index, const HeaderAttributes& header)
 void CSchedule::TickAll(bool ticked)
 {
     for (const Cell cell : m_sched->CellsWith([](CellStyle style) { return KindOf(style).Toggles(); }))
-        m_sched->SetText(cell, TextOfState(ticked));
+        m_sched->SetText(cell, StateText(ticked));
 }
 
 void CSchedule::SetGridSize(int columns, int rows)

@@ -51,7 +51,7 @@ constexpr bool IsTicked(CellStyle style, std::string_view utf8)
 }
 
 /// The text of a cell that toggles.
-inline QString TextOfState(bool ticked)
+inline QString StateText(bool ticked)
 {
     return ticked ? QStringLiteral("1") : QStringLiteral("0");
 }

@@ -47,7 +47,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     EXPECT_EQ(loaded, plain.schedule.LoadScheduleData(input.Text()));
     EXPECT_EQ(tags.user.boxes.size(), loaded ? 0U : 1U);
     for (const Cell cell : plain.sheet.CellsOfType(CellType::CheckBox))
-        plain.sheet.SetText(cell, TextOfState(ticked));
+        plain.sheet.SetText(cell, StateText(ticked));
     EXPECT_EQ(Drawn(tags.sheet), Drawn(plain.sheet));
     EXPECT_EQ(DrawnTypes(tags.sheet), DrawnTypes(plain.sheet));
     ExpectPicked(TickedTags(tags.sheet, Tags::AreColumns));

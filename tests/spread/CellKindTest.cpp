@@ -56,7 +56,7 @@ TEST(CellKind, OnlyACellThatTogglesIsTicked)
         EXPECT_FALSE(IsTicked(StyleOf(CellType::CheckBox), text)) << text;
     EXPECT_FALSE(IsTicked(StyleOf(CellType::StaticText), "1"));
     for (const bool ticked : {false, true})
-        EXPECT_EQ(IsTicked(StyleOf(CellType::CheckBox), TextOfState(ticked).toStdString()), ticked);
+        EXPECT_EQ(IsTicked(StyleOf(CellType::CheckBox), StateText(ticked).toStdString()), ticked);
 }
 
 } // namespace schedules::testing

@@ -139,8 +139,8 @@ Entry ViewCommands::EnterTick(Cell cell, const QString& text)
 {
     if (!m_rooms.picking.Toggles(cell))
         return Entry::NotEditable;
-    const bool isTick = text == TextOfState(true);
-    if (!isTick && text != TextOfState(false))
+    const bool isTick = text == StateText(true);
+    if (!isTick && text != StateText(false))
         return Entry::NotABoxText;
     m_rooms.picking.SetTicked(cell, isTick);
     return Entry::Taken;

@@ -36,9 +36,9 @@ void TagPicking::SetTicked(Cell cell, bool ticked)
     if (!Toggles(cell) || ticked == IsTicked(*m_table.Shown(), cell))
         return;
     if (m_settings.IsSelectorView())
-        m_table.Shown()->SetText(cell, TextOfState(ticked));
+        m_table.Shown()->SetText(cell, StateText(ticked));
     else
-        m_edits.Change(cell, TextOfState(ticked));
+        m_edits.Change(cell, StateText(ticked));
 }
 
 void TagPicking::Toggle(Cell cell)
