@@ -19,7 +19,7 @@ int RunList(const CommandLine& commandLine);
 /// Prints the values of a tag, or one of them.
 int RunGet(const CommandLine& commandLine);
 
-/// Stores a value. When somebody else stores another one at the same moment it is left, and the result says so.
+/// Stores a value. If somebody else changes it at the same moment, theirs stays, and the result says so.
 int RunSet(const CommandLine& commandLine);
 
 /// The second half of it, when the value's version has been read.

@@ -20,7 +20,7 @@ class ConflictDialog : public QDialog
 public:
     ConflictDialog(const QList<Conflict>& conflicts, const QList<DataItem>& items, QWidget* parent = nullptr);
 
-    /// What the user wants, as `Insisted`; nothing when the dialog was cancelled.
+    /// What the user wants, as `Insisted`; empty if they cancelled the dialog.
     static std::optional<QList<ValueEdit>> Ask(const QList<Conflict>& conflicts, const QList<DataItem>& items,
                                                QWidget* parent);
 

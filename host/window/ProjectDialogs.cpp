@@ -52,7 +52,7 @@ std::unique_ptr<Project> ProjectDialogs::Opened(const QString& address) const
     }
 }
 
-/// Nothing when it is not given.
+/// Empty if the user gives none.
 std::optional<QString> ProjectDialogs::AskPassword(const QString& refusal) const
 {
     bool given = false;

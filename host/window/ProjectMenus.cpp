@@ -69,7 +69,7 @@ void ProjectMenus::ListRecent(QMenu& menu)
 {
     for (const QString& address : m_settings.RecentProjects()) {
         const QAction* action = menu.addAction(QString(address).replace(u'&', QStringLiteral("&&")));
-        // Later, since opening makes the menus anew.
+        // Later, since opening replaces the menus.
         connect(
             action, &QAction::triggered, this, [this, address] { Q_EMIT RecentChosen(address); }, Qt::QueuedConnection);
     }

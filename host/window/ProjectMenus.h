@@ -23,7 +23,7 @@ public:
     /// `panes` are the entries that show and hide what is docked. They and the window must outlive this object.
     ProjectMenus(QMainWindow& window, const QList<QAction*>& panes);
 
-    /// Builds the menus in the language of now, in place of those that there are.
+    /// Replaces the menus with new ones in the current language.
     void Build();
 
     /// Which language is in use.

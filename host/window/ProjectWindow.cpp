@@ -218,7 +218,7 @@ void ProjectWindow::ShowHelp(const QString& context)
     m_help->Open(context);
 }
 
-/// The tools are made anew, since they set their captions when they start.
+/// Creates the tools again, since they set their captions when they start.
 void ProjectWindow::ChooseLanguage(const QString& language)
 {
     m_steps->Do([&] {

@@ -41,7 +41,7 @@ public:
     static RequestMessage Request(QStringView name, std::initializer_list<QVariant> values = {});
     static EventMessage Event(QStringView name, std::initializer_list<QVariant> values = {});
 
-    /// Sends a request and returns the reply. A failed send is told through `HandleError` and gives an empty reply.
+    /// Sends a request and returns the reply. A failed send is reported with `HandleError` and gives an empty reply.
     QString SendRequestToOwner(const RequestMessage& message) noexcept;
 
     /// Sends an event and returns the reply. A failed send throws.
@@ -55,8 +55,8 @@ public:
     /// See `ToolControl`.
     void HandleError(const Error* error, const QString& procedure) noexcept;
 
-    /// Runs a procedure whose failure is told to the host, and returns what it returns, else `otherwise`. Nothing but
-    /// `ToolGone` leaves it.
+    /// Runs a procedure whose failure is reported to the host, and returns what it returns, else `otherwise`. Nothing
+    /// but `ToolGone` leaves it.
     template <class Result, std::invocable Body>
     Result Guarded(const char* procedure, Result otherwise, Body&& body)
     {
@@ -78,7 +78,7 @@ public:
         Guarded(procedure, false, [&] { return std::invoke(body), true; });
     }
 
-    /// Runs a procedure whose failure is told to the host, and lets nothing out.
+    /// Runs a procedure whose failure is reported to the host, and lets nothing out.
     template <std::invocable Body>
     void TellingHost(const char* procedure, Body&& body) noexcept
     {

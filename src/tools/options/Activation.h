@@ -16,7 +16,7 @@ public:
     Activation(const EditorContext& editor, TemplateCatalogue& catalogue, ShownTemplate& shown,
                TemplateSelector& selector, GroupList& groups);
 
-    /// Does nothing when it has run before, with success or not, unless `EditorState::loaded` was cleared.
+    /// Runs only once, whether it succeeds or not, unless `EditorState::loaded` was cleared.
     void IToolUI_Activate();
 
 private:
